@@ -1,0 +1,26 @@
+// Reading numbers typed in the fields. The user may write the decimal
+// separator as a period or a comma whatever the machine's regional settings.
+#pragma once
+
+#include <string_view>
+
+namespace texalon {
+
+// Value of a field's text. The text is cut to the length it has once its
+// leading and trailing blanks are trimmed (note: the cut is taken from the
+// untrimmed text), each comma becomes a period and the result is read as a
+// plain number: blanks are skipped anywhere, an optional sign, digits with at
+// most one period, an optional exponent E/e/D/d; reading stops at the first
+// character that cannot belong to the number, and text without a number
+// reads 0. A value too large for a double gives +/-HUGE_VAL; callers test the
+// text with EsNumerico first, which refuses such text. Underflow gives 0.
+double Decimales(std::string_view texto);
+
+// True when the text is a number written with '.' or ',' as decimal separator:
+// optional blanks (space, tab) around it, an optional sign, digits and
+// separators (at least one digit, never two separators together), and an
+// optional exponent [eEdD][+-]digits. Text whose Decimales value would not be
+// finite (e.g. "1e999") is refused too.
+bool EsNumerico(std::string_view texto);
+
+}  // namespace texalon

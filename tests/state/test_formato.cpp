@@ -1,0 +1,248 @@
+#include "state/Formato.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <limits>
+#include <stdexcept>
+
+namespace texalon {
+namespace {
+
+// --- Formato, decimal comma ----------------------------------------------------
+
+TEST(FormatoComa, MitadDeCentesimaSubeLejosDelCero)
+{
+    EXPECT_EQ(Formato(0.125, "0.00", ','), "0,13");
+}
+
+TEST(FormatoComa, MitadSinDecimalesSube)
+{
+    EXPECT_EQ(Formato(2.5, "0", ','), "3");
+}
+
+TEST(FormatoComa, MitadNegativaSinDecimalesBaja)
+{
+    EXPECT_EQ(Formato(-2.5, "0", ','), "-3");
+}
+
+TEST(FormatoComa, DosSeisSieteCincoRedondeaEnDecimal)
+{
+    EXPECT_EQ(Formato(2.675, "0.00", ','), "2,68");
+}
+
+TEST(FormatoComa, UnoCeroCeroCincoRedondeaEnDecimal)
+{
+    EXPECT_EQ(Formato(1.005, "0.00", ','), "1,01");
+}
+
+TEST(FormatoComa, CompletaConCeros)
+{
+    EXPECT_EQ(Formato(0.4, "0.000", ','), "0,400");
+}
+
+TEST(FormatoComa, AcarreoAgregaCifraEntera)
+{
+    EXPECT_EQ(Formato(9.995, "0.00", ','), "10,00");
+}
+
+TEST(FormatoComa, MitadDeMilesimaSube)
+{
+    EXPECT_EQ(Formato(0.0005, "0.000", ','), "0,001");
+}
+
+TEST(FormatoComa, NegativoQueRedondeaACeroSinSigno)
+{
+    EXPECT_EQ(Formato(-0.001, "0.00", ','), "0,00");
+}
+
+TEST(FormatoComa, CeroEnCadaPatron)
+{
+    EXPECT_EQ(Formato(0.0, "0", ','), "0");
+    EXPECT_EQ(Formato(0.0, "0.0", ','), "0,0");
+    EXPECT_EQ(Formato(0.0, "0.00", ','), "0,00");
+    EXPECT_EQ(Formato(0.0, "0.000", ','), "0,000");
+    EXPECT_EQ(Formato(0.0, "0.000000", ','), "0,000000");
+}
+
+TEST(FormatoComa, CeroNegativoSinSigno)
+{
+    EXPECT_EQ(Formato(-0.0, "0.0", ','), "0,0");
+}
+
+TEST(FormatoComa, ValorGrandeSinSeparadorDeMiles)
+{
+    EXPECT_EQ(Formato(1234567.891, "0.00", ','), "1234567,89");
+}
+
+TEST(FormatoComa, ValorEnormeMuestraTodasLasCifras)
+{
+    EXPECT_EQ(Formato(1e20, "0", ','), "100000000000000000000");
+}
+
+TEST(FormatoComa, SeisDecimales)
+{
+    EXPECT_EQ(Formato(3.14159265, "0.000000", ','), "3,141593");
+}
+
+TEST(FormatoComa, UnDecimalNegativo)
+{
+    EXPECT_EQ(Formato(-12.34, "0.0", ','), "-12,3");
+}
+
+// --- Formato, decimal period ---------------------------------------------------
+
+TEST(FormatoPunto, MitadDeCentesimaSubeLejosDelCero)
+{
+    EXPECT_EQ(Formato(0.125, "0.00", '.'), "0.13");
+}
+
+TEST(FormatoPunto, MitadSinDecimalesSube)
+{
+    EXPECT_EQ(Formato(2.5, "0", '.'), "3");
+}
+
+TEST(FormatoPunto, MitadNegativaSinDecimalesBaja)
+{
+    EXPECT_EQ(Formato(-2.5, "0", '.'), "-3");
+}
+
+TEST(FormatoPunto, DosSeisSieteCincoRedondeaEnDecimal)
+{
+    EXPECT_EQ(Formato(2.675, "0.00", '.'), "2.68");
+}
+
+TEST(FormatoPunto, UnoCeroCeroCincoRedondeaEnDecimal)
+{
+    EXPECT_EQ(Formato(1.005, "0.00", '.'), "1.01");
+}
+
+TEST(FormatoPunto, CompletaConCeros)
+{
+    EXPECT_EQ(Formato(0.4, "0.000", '.'), "0.400");
+}
+
+TEST(FormatoPunto, AcarreoAgregaCifraEntera)
+{
+    EXPECT_EQ(Formato(9.995, "0.00", '.'), "10.00");
+}
+
+TEST(FormatoPunto, MitadDeMilesimaSube)
+{
+    EXPECT_EQ(Formato(0.0005, "0.000", '.'), "0.001");
+}
+
+TEST(FormatoPunto, NegativoQueRedondeaACeroSinSigno)
+{
+    EXPECT_EQ(Formato(-0.001, "0.00", '.'), "0.00");
+}
+
+TEST(FormatoPunto, CeroEnCadaPatron)
+{
+    EXPECT_EQ(Formato(0.0, "0", '.'), "0");
+    EXPECT_EQ(Formato(0.0, "0.0", '.'), "0.0");
+    EXPECT_EQ(Formato(0.0, "0.00", '.'), "0.00");
+    EXPECT_EQ(Formato(0.0, "0.000", '.'), "0.000");
+    EXPECT_EQ(Formato(0.0, "0.000000", '.'), "0.000000");
+}
+
+TEST(FormatoPunto, CeroNegativoSinSigno)
+{
+    EXPECT_EQ(Formato(-0.0, "0.0", '.'), "0.0");
+}
+
+TEST(FormatoPunto, ValorGrandeSinSeparadorDeMiles)
+{
+    EXPECT_EQ(Formato(1234567.891, "0.00", '.'), "1234567.89");
+}
+
+TEST(FormatoPunto, ValorEnormeMuestraTodasLasCifras)
+{
+    EXPECT_EQ(Formato(1e20, "0", '.'), "100000000000000000000");
+}
+
+TEST(FormatoPunto, SeisDecimales)
+{
+    EXPECT_EQ(Formato(3.14159265, "0.000000", '.'), "3.141593");
+}
+
+TEST(FormatoPunto, UnDecimalNegativo)
+{
+    EXPECT_EQ(Formato(-12.34, "0.0", '.'), "-12.3");
+}
+
+// --- Formato, general ---------------------------------------------------------
+
+TEST(Formato, MenosDeMediaUnidadDaCero)
+{
+    EXPECT_EQ(Formato(0.4, "0", '.'), "0");
+    EXPECT_EQ(Formato(0.00049, "0.000", ','), "0,000");
+    EXPECT_EQ(Formato(1e-300, "0.00", ','), "0,00");
+}
+
+TEST(Formato, NegativoQueSubeAUnaUnidad)
+{
+    EXPECT_EQ(Formato(-0.0005, "0.000", ','), "-0,001");
+}
+
+TEST(Formato, QuinceDecimales)
+{
+    EXPECT_EQ(Formato(0.1, "0.000000000000000", '.'), "0.100000000000000");
+    EXPECT_EQ(Formato(1.0 / 3.0, "0.000000000000000", ','), "0,333333333333333");
+}
+
+TEST(Formato, RuidoBinarioMasAllaDeQuinceCifrasNoCuenta)
+{
+    // 0.1 + 0.2 is 0.30000000000000004 in binary; 15 digits make it 0.3.
+    EXPECT_EQ(Formato(0.1 + 0.2, "0.000000000000000", '.'), "0.300000000000000");
+}
+
+TEST(Formato, NoFinitosDanTextoFijo)
+{
+    EXPECT_EQ(Formato(std::numeric_limits<double>::infinity(), "0.00", ','), "inf");
+    EXPECT_EQ(Formato(-std::numeric_limits<double>::infinity(), "0.00", ','), "-inf");
+    EXPECT_EQ(Formato(std::numeric_limits<double>::quiet_NaN(), "0.00", ','), "nan");
+}
+
+TEST(Formato, PatronDesconocidoLanzaExcepcion)
+{
+    EXPECT_THROW(Formato(1.0, "#,##0", '.'), std::invalid_argument);
+    EXPECT_THROW(Formato(1.0, "0.", '.'), std::invalid_argument);
+    EXPECT_THROW(Formato(1.0, "", '.'), std::invalid_argument);
+}
+
+// --- FormatoTexto -------------------------------------------------------------
+
+TEST(FormatoTexto, RellenaConBlancosALaIzquierda)
+{
+    EXPECT_EQ(FormatoTexto("12", "@@@@"), "  12");
+}
+
+TEST(FormatoTexto, UnCaracterEnDosLugares)
+{
+    EXPECT_EQ(FormatoTexto("3", "@@"), " 3");
+}
+
+TEST(FormatoTexto, TextoMasLargoSeDevuelveEntero)
+{
+    EXPECT_EQ(FormatoTexto("12345", "@@@@"), "12345");
+}
+
+TEST(FormatoTexto, TextoDelMismoLargoQuedaIgual)
+{
+    EXPECT_EQ(FormatoTexto("1234", "@@@@"), "1234");
+}
+
+TEST(FormatoTexto, TextoVacioDaSoloBlancos)
+{
+    EXPECT_EQ(FormatoTexto("", "@@@"), "   ");
+}
+
+TEST(FormatoTexto, CuentaCaracteresNoBytes)
+{
+    EXPECT_EQ(FormatoTexto("−5", "@@@@"), "  −5");
+    EXPECT_EQ(FormatoTexto("ángulo", "@@@@@@@@"), "  ángulo");
+}
+
+}  // namespace
+}  // namespace texalon
