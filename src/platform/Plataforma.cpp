@@ -1,0 +1,51 @@
+#include "platform/Plataforma.h"
+
+#include "state/Formato.h"
+
+namespace texalon::plataforma {
+
+namespace {
+
+Servicios& EnUso()
+{
+    static Servicios servicios;
+    return servicios;
+}
+
+template <typename T>
+T& Servicio(T* servicio)
+{
+    // Using a service before one is installed is a fault of the program, not of the user.
+    if (servicio == nullptr) throw ErrorEjecucion(ErrorEjecucion::kArgumentoNoValido);
+    return *servicio;
+}
+
+}  // namespace
+
+Mensajes& ServicioMensajes() { return Servicio(EnUso().mensajes); }
+Ficheros& ServicioFicheros() { return Servicio(EnUso().ficheros); }
+Ventanas& ServicioVentanas() { return Servicio(EnUso().ventanas); }
+Monitor& ServicioMonitor() { return Servicio(EnUso().monitor); }
+Regional& ServicioRegional() { return Servicio(EnUso().regional); }
+Proceso& ServicioProceso() { return Servicio(EnUso().proceso); }
+
+Servicios Instala(const Servicios& servicios)
+{
+    Servicios anteriores = EnUso();
+    EnUso() = servicios;
+    return anteriores;
+}
+
+QString FormatoLocal(double valor, std::string_view patron)
+{
+    return QString::fromStdString(Formato(valor, patron, ServicioRegional().SeparadorDecimal()));
+}
+
+QString TextoErrorFatal(const ErrorEjecucion& error)
+{
+    return QStringLiteral("Se ha producido el error '%1' en tiempo de ejecución:\r\r%2")
+        .arg(error.Numero())
+        .arg(QString::fromStdString(error.Descripcion()));
+}
+
+}  // namespace texalon::plataforma

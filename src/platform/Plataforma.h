@@ -1,0 +1,123 @@
+// Everything the program asks of the operating system goes through these interfaces: the
+// message box, the file dialogs, modal windows, the screen size, the decimal separator and the
+// end of the process. The program installs the Qt implementations at start-up; the tests
+// install doubles that record what was asked and answer from a script, so no test ever waits
+// on a person.
+#pragma once
+
+#include "state/ErrorEjecucion.h"
+
+#include <QSizeF>
+#include <QStringList>
+#include <QString>
+#include <optional>
+#include <string_view>
+
+class QDialog;
+
+namespace texalon::plataforma {
+
+// The title of every message box of the program.
+inline const QString kTituloMensajes = QStringLiteral("VELMORA - TEXALON®");
+
+// Message box styles, numbered as the classic message box numbers them.
+enum class Estilo : int {
+    Parada = 16,        // stop icon, one button
+    PreguntaSiNo = 36,  // question icon, Yes and No
+    Exclamacion = 48,   // exclamation icon, one button
+    Informacion = 64,   // information icon, one button
+};
+
+enum class Respuesta : int { Aceptar = 1, Si = 6, No = 7 };
+
+class Mensajes {
+public:
+    virtual ~Mensajes() = default;
+    // Shows the text with the program's title. A carriage return alone breaks the line.
+    virtual Respuesta Muestra(const QString& texto, Estilo estilo) = 0;
+};
+
+// One use of the file dialog: the filter in the classic form "Descripción|*.EXT|...", the
+// filter shown first (from 1) and the proposed file name.
+struct DialogoFichero {
+    QString filtro;
+    int indiceFiltro = 1;
+    QString nombre;
+};
+
+// What the user chose: the full path of the file and the directory it is in.
+struct FicheroElegido {
+    QString fichero;
+    QString directorio;
+};
+
+class Ficheros {
+public:
+    virtual ~Ficheros() = default;
+    // Both return nothing when the user cancels. Saving asks before replacing a file.
+    virtual std::optional<FicheroElegido> Abrir(const DialogoFichero& dialogo) = 0;
+    virtual std::optional<FicheroElegido> Guardar(const DialogoFichero& dialogo) = 0;
+};
+
+class Ventanas {
+public:
+    virtual ~Ventanas() = default;
+    // Shows a dialog modally and returns its result code when it closes.
+    virtual int MuestraModal(QDialog& dialogo) = 0;
+};
+
+class Monitor {
+public:
+    virtual ~Monitor() = default;
+    // Size of the screen in pixels.
+    virtual QSizeF Tamano() const = 0;
+};
+
+class Regional {
+public:
+    virtual ~Regional() = default;
+    // The decimal separator of the machine's regional settings: ',' or '.'.
+    virtual char SeparadorDecimal() const = 0;
+};
+
+class Proceso {
+public:
+    virtual ~Proceso() = default;
+    // Ends the process at once. The caller returns straight after the call, so that a double
+    // that records the end instead leaves nothing running behind it.
+    virtual void Termina(int codigo) = 0;
+    // A run-time error that nothing trapped: its message, then the end of the process.
+    virtual void ErrorFatal(const ErrorEjecucion& error) = 0;
+};
+
+// The services in use.
+Mensajes& ServicioMensajes();
+Ficheros& ServicioFicheros();
+Ventanas& ServicioVentanas();
+Monitor& ServicioMonitor();
+Regional& ServicioRegional();
+Proceso& ServicioProceso();
+
+struct Servicios {
+    Mensajes* mensajes = nullptr;
+    Ficheros* ficheros = nullptr;
+    Ventanas* ventanas = nullptr;
+    Monitor* monitor = nullptr;
+    Regional* regional = nullptr;
+    Proceso* proceso = nullptr;
+};
+
+// Puts a set of services in place and returns the set it replaces.
+Servicios Instala(const Servicios& servicios);
+
+// Shorthand for the message box of the program.
+inline Respuesta MsgBox(const QString& texto, Estilo estilo) { return ServicioMensajes().Muestra(texto, estilo); }
+
+// A number in one of the program's formats ("0", "0.00"...) with the machine's decimal
+// separator, as the screens and reports show numbers.
+QString FormatoLocal(double valor, std::string_view patron);
+
+// The message of a run-time error that nothing trapped, as the classic runtime words it.
+QString TextoErrorFatal(const ErrorEjecucion& error);
+
+}  // namespace texalon::plataforma

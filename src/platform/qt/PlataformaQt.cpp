@@ -1,0 +1,135 @@
+#include "platform/qt/PlataformaQt.h"
+
+#include <QApplication>
+#include <QDialog>
+#include <QDir>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QLocale>
+#include <QMessageBox>
+#include <QScreen>
+#include <cstdio>
+#include <cstdlib>
+
+namespace texalon::plataforma {
+
+namespace {
+
+QMessageBox::Icon IconoDe(Estilo estilo)
+{
+    switch (estilo) {
+    case Estilo::Parada: return QMessageBox::Critical;
+    case Estilo::PreguntaSiNo: return QMessageBox::Question;
+    case Estilo::Exclamacion: return QMessageBox::Warning;
+    case Estilo::Informacion: return QMessageBox::Information;
+    }
+    return QMessageBox::NoIcon;
+}
+
+std::optional<FicheroElegido> MuestraDialogo(const DialogoFichero& dialogo, QFileDialog::AcceptMode modo)
+{
+    QFileDialog cuadro(QApplication::activeWindow());
+    cuadro.setOption(QFileDialog::DontUseNativeDialog);
+    cuadro.setAcceptMode(modo);
+    cuadro.setFileMode(modo == QFileDialog::AcceptOpen ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
+    cuadro.setDirectory(QDir::currentPath());
+    const QStringList filtros = FiltrosQt(dialogo.filtro);
+    cuadro.setNameFilters(filtros);
+    if (dialogo.indiceFiltro >= 1 && dialogo.indiceFiltro <= filtros.size())
+        cuadro.selectNameFilter(filtros.at(dialogo.indiceFiltro - 1));
+    if (!dialogo.nombre.isEmpty()) cuadro.selectFile(dialogo.nombre);
+    if (cuadro.exec() != QDialog::Accepted || cuadro.selectedFiles().isEmpty()) return std::nullopt;
+
+    // As the classic dialog does, the chosen file's folder becomes the current directory.
+    const QFileInfo elegido(cuadro.selectedFiles().constFirst());
+    QDir::setCurrent(elegido.absolutePath());
+    return FicheroElegido{QDir::toNativeSeparators(elegido.absoluteFilePath()),
+                          QDir::toNativeSeparators(elegido.absolutePath())};
+}
+
+}  // namespace
+
+QString TextoParaMostrar(const QString& texto)
+{
+    QString resultado = texto;
+    resultado.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
+    resultado.replace(QLatin1Char('\r'), QLatin1Char('\n'));
+    return resultado;
+}
+
+QStringList FiltrosQt(const QString& filtro)
+{
+    const QStringList partes = filtro.split(QLatin1Char('|'));
+    QStringList filtros;
+    for (qsizetype i = 0; i + 1 < partes.size(); i += 2) {
+        QStringList patrones;
+        for (const QString& patron : partes.at(i + 1).split(QLatin1Char(';'), Qt::SkipEmptyParts)) {
+            patrones << patron.toUpper();
+            if (patron.toLower() != patron.toUpper()) patrones << patron.toLower();
+        }
+        filtros << QStringLiteral("%1 (%2)").arg(partes.at(i), patrones.join(QLatin1Char(' ')));
+    }
+    return filtros;
+}
+
+Respuesta MensajesQt::Muestra(const QString& texto, Estilo estilo)
+{
+    QMessageBox caja(IconoDe(estilo), kTituloMensajes, TextoParaMostrar(texto), QMessageBox::NoButton,
+                     QApplication::activeWindow());
+    if (estilo == Estilo::PreguntaSiNo) {
+        caja.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
+        caja.setDefaultButton(QMessageBox::Yes);
+        return caja.exec() == QMessageBox::Yes ? Respuesta::Si : Respuesta::No;
+    }
+    caja.setStandardButtons(QMessageBox::Ok);
+    caja.exec();
+    return Respuesta::Aceptar;
+}
+
+std::optional<FicheroElegido> FicherosQt::Abrir(const DialogoFichero& dialogo)
+{
+    return MuestraDialogo(dialogo, QFileDialog::AcceptOpen);
+}
+
+std::optional<FicheroElegido> FicherosQt::Guardar(const DialogoFichero& dialogo)
+{
+    return MuestraDialogo(dialogo, QFileDialog::AcceptSave);
+}
+
+int VentanasQt::MuestraModal(QDialog& dialogo) { return dialogo.exec(); }
+
+QSizeF MonitorQt::Tamano() const
+{
+    const QScreen* pantalla = QGuiApplication::primaryScreen();
+    return pantalla == nullptr ? QSizeF() : QSizeF(pantalla->size());
+}
+
+char RegionalQt::SeparadorDecimal() const
+{
+    return QLocale::system().decimalPoint() == QStringLiteral(",") ? ',' : '.';
+}
+
+void ProcesoQt::Termina(int codigo)
+{
+    std::fflush(nullptr);
+    std::_Exit(codigo);
+}
+
+void ProcesoQt::ErrorFatal(const ErrorEjecucion& error)
+{
+    MensajesQt().Muestra(TextoErrorFatal(error), Estilo::Parada);
+    Termina(1);
+}
+
+void InstalaQt()
+{
+    static MensajesQt mensajes;
+    static FicherosQt ficheros;
+    static VentanasQt ventanas;
+    static MonitorQt monitor;
+    static RegionalQt regional;
+    static ProcesoQt proceso;
+    Instala({&mensajes, &ficheros, &ventanas, &monitor, &regional, &proceso});
+}
+
+}  // namespace texalon::plataforma

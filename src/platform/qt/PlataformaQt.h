@@ -1,0 +1,51 @@
+// The Qt implementations of the platform services, as the program uses them.
+#pragma once
+
+#include "platform/Plataforma.h"
+
+namespace texalon::plataforma {
+
+class MensajesQt final : public Mensajes {
+public:
+    Respuesta Muestra(const QString& texto, Estilo estilo) override;
+};
+
+class FicherosQt final : public Ficheros {
+public:
+    std::optional<FicheroElegido> Abrir(const DialogoFichero& dialogo) override;
+    std::optional<FicheroElegido> Guardar(const DialogoFichero& dialogo) override;
+};
+
+class VentanasQt final : public Ventanas {
+public:
+    int MuestraModal(QDialog& dialogo) override;
+};
+
+class MonitorQt final : public Monitor {
+public:
+    QSizeF Tamano() const override;
+};
+
+class RegionalQt final : public Regional {
+public:
+    char SeparadorDecimal() const override;
+};
+
+class ProcesoQt final : public Proceso {
+public:
+    void Termina(int codigo) override;
+    void ErrorFatal(const ErrorEjecucion& error) override;
+};
+
+// Installs the Qt services for the life of the process.
+void InstalaQt();
+
+// The classic filter "Descripción|*.VMF|Otra|*.VMC;*.VMF" as Qt's list of name filters. Each
+// pattern is offered in capitals and in small letters, since file names on this system tell
+// the two apart and the program does not.
+QStringList FiltrosQt(const QString& filtro);
+
+// A carriage return alone breaks a line in a classic message box; Qt wants a line feed.
+QString TextoParaMostrar(const QString& texto);
+
+}  // namespace texalon::plataforma

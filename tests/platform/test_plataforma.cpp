@@ -1,0 +1,121 @@
+#include "platform/dobles/PlataformaDoble.h"
+#include "platform/qt/PlataformaQt.h"
+
+#include <QApplication>
+#include <QDialog>
+#include <QtTest>
+
+using namespace texalon;
+using namespace texalon::plataforma;
+
+class PruebaPlataforma : public QObject {
+    Q_OBJECT
+private slots:
+    void filtroDeAbrirDaTresFiltrosEnAmbasCajas()
+    {
+        const QStringList filtros = FiltrosQt(QStringLiteral(
+            "Archivos TEXALON - Flexión|*.VMF|Archivos TEXALON - Confinamiento|*.VMC|Archivos TEXALON|*.VMC;*.VMF"));
+        QCOMPARE(filtros, QStringList({QStringLiteral("Archivos TEXALON - Flexión (*.VMF *.vmf)"),
+                                       QStringLiteral("Archivos TEXALON - Confinamiento (*.VMC *.vmc)"),
+                                       QStringLiteral("Archivos TEXALON (*.VMC *.vmc *.VMF *.vmf)")}));
+    }
+
+    void retornoDeCarroSoloPartelaLinea()
+    {
+        QCOMPARE(TextoParaMostrar(QStringLiteral("uno\rdos\r\ntres")), QStringLiteral("uno\ndos\ntres"));
+    }
+
+    void separadorDecimalSigueLaConfiguracionDeLaMaquina()
+    {
+        // The suite runs once under a Spanish and once under an English setting.
+        const QByteArray ajuste = qgetenv("LC_ALL");
+        const char esperado = ajuste.startsWith("es") ? ',' : ajuste.startsWith("en") ? '.'
+            : (QLocale::system().decimalPoint() == QStringLiteral(",") ? ',' : '.');
+        QCOMPARE(RegionalQt().SeparadorDecimal(), esperado);
+        QCOMPARE(RegionalDoble().separador, esperado);
+    }
+
+    void formatoLocalUsaElSeparadorDeLaPlataforma()
+    {
+        PlataformaDoble doble;
+        doble.regional.separador = ',';
+        QCOMPARE(FormatoLocal(0.125, "0.00"), QStringLiteral("0,13"));
+        QCOMPARE(FormatoLocal(0.4, "0.000"), QStringLiteral("0,400"));
+        QCOMPARE(FormatoLocal(2.5, "0"), QStringLiteral("3"));
+        doble.regional.separador = '.';
+        QCOMPARE(FormatoLocal(0.125, "0.00"), QStringLiteral("0.13"));
+        QCOMPARE(FormatoLocal(0.4, "0.000"), QStringLiteral("0.400"));
+        QCOMPARE(FormatoLocal(1.23456789, "0.000000"), QStringLiteral("1.234568"));
+    }
+
+    void dobleDeMensajesRegistraYRespondeDelGuion()
+    {
+        PlataformaDoble doble;
+        doble.mensajes.respuestas = {Respuesta::Si};
+        QCOMPARE(MsgBox(QStringLiteral("¿Desea guardar?"), Estilo::PreguntaSiNo), Respuesta::Si);
+        QCOMPARE(MsgBox(QStringLiteral("¿Otra vez?"), Estilo::PreguntaSiNo), Respuesta::No);
+        QCOMPARE(MsgBox(QStringLiteral("Aviso"), Estilo::Parada), Respuesta::Aceptar);
+        QCOMPARE(doble.mensajes.mostrados.size(), std::size_t{3});
+        QCOMPARE(doble.mensajes.mostrados[0].texto, QStringLiteral("¿Desea guardar?"));
+        QCOMPARE(doble.mensajes.mostrados[2].estilo, Estilo::Parada);
+        QCOMPARE(static_cast<int>(Estilo::PreguntaSiNo), 36);
+        QCOMPARE(kTituloMensajes, QStringLiteral("VELMORA - TEXALON®"));
+    }
+
+    void dobleSeInstalaYDevuelveLoAnterior()
+    {
+        PlataformaDoble fuera;
+        {
+            PlataformaDoble dentro;
+            QCOMPARE(&ServicioMensajes(), static_cast<Mensajes*>(&dentro.mensajes));
+        }
+        QCOMPARE(&ServicioMensajes(), static_cast<Mensajes*>(&fuera.mensajes));
+        QCOMPARE(&ServicioProceso(), static_cast<Proceso*>(&fuera.proceso));
+    }
+
+    void dobleDeFicherosSinGuionEsCancelar()
+    {
+        PlataformaDoble doble;
+        doble.ficheros.respuestas.push_back(FicheroElegido{QStringLiteral("/tmp/viga.vmf"), QStringLiteral("/tmp")});
+        const auto elegido = ServicioFicheros().Guardar({QStringLiteral("Archivos TEXALON - Flexión|*.VMF"), 1,
+                                                         QStringLiteral("flexion.vmf")});
+        QVERIFY(elegido.has_value());
+        QCOMPARE(elegido->fichero, QStringLiteral("/tmp/viga.vmf"));
+        QVERIFY(!ServicioFicheros().Abrir({}).has_value());
+        QCOMPARE(doble.ficheros.guardados.size(), std::size_t{1});
+        QCOMPARE(doble.ficheros.guardados[0].nombre, QStringLiteral("flexion.vmf"));
+        QCOMPARE(doble.ficheros.abiertos.size(), std::size_t{1});
+    }
+
+    void dobleDeVentanasNoBloqueaYCierraLoQueQuedeAbierto()
+    {
+        PlataformaDoble doble;
+        QDialog dialogo;
+        dialogo.setObjectName(QStringLiteral("FM_PRUEBA"));
+        QCOMPARE(ServicioVentanas().MuestraModal(dialogo), int(QDialog::Rejected));
+        QVERIFY(!dialogo.isVisible());
+        doble.ventanas.alMostrar = [](QDialog& d) { d.accept(); };
+        QCOMPARE(ServicioVentanas().MuestraModal(dialogo), int(QDialog::Accepted));
+        QCOMPARE(doble.ventanas.mostradas, QStringList({QStringLiteral("FM_PRUEBA"), QStringLiteral("FM_PRUEBA")}));
+    }
+
+    void errorFatalNombraElErrorYTerminaElProceso()
+    {
+        PlataformaDoble doble;
+        ServicioProceso().ErrorFatal(ErrorEjecucion(ErrorEjecucion::kDesbordamiento));
+        QCOMPARE(doble.proceso.erroresFatales.size(), std::size_t{1});
+        QCOMPARE(doble.proceso.erroresFatales[0].texto,
+                 QStringLiteral("Se ha producido el error '6' en tiempo de ejecución:\r\rDesbordamiento"));
+        QCOMPARE(doble.proceso.terminaciones, std::vector<int>{1});
+    }
+
+    void pantallaRealTieneTamano()
+    {
+        const QSizeF tamano = MonitorQt().Tamano();
+        QVERIFY(tamano.width() > 0.0);
+        QVERIFY(tamano.height() > 0.0);
+    }
+};
+
+QTEST_MAIN(PruebaPlataforma)
+#include "test_plataforma.moc"
