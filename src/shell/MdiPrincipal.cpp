@@ -1,0 +1,398 @@
+#include "shell/MdiPrincipal.h"
+
+#include "platform/Plataforma.h"
+#include "shell/FmAcercaDe.h"
+#include "shell/FmPresentacion.h"
+#include "shell/Imagenes.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QKeyEvent>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QMenuBar>
+#include <QToolBar>
+#include <span>
+
+namespace texalon {
+
+namespace {
+
+using Orden = void (MdiPrincipal::*)();
+
+// One entry of a menu: its name, caption, shortcut, state at start and command. An entry
+// without a caption is a separator; one without a command has it from the unit that tells it.
+struct EntradaMenu {
+    const char* nombre;
+    const char* titulo;
+    const char* atajo;
+    bool activo;
+    Orden orden;
+};
+
+struct Menu {
+    const char* nombre;
+    const char* titulo;
+    std::span<const EntradaMenu> entradas;
+};
+
+const EntradaMenu kPrincipal[] = {
+    {"mnuPrincipalAbrir", "&Abrir datos", "Ctrl+A", true, nullptr},
+    {"mnuPrincipalGuardar", "&Guardar datos", "Ctrl+S", false, nullptr},
+    {"mnuPrincipalGuardarcomo", "G&uardar datos como...", "", false, nullptr},
+    {"mnuPrincipalNada1", nullptr, "", true, nullptr},
+    {"mnuPrincipalImprimir", "&Imprimir", "Ctrl+I", false, nullptr},
+    {"mnuPrincipalConfigurar", "&Configurar impresora", "", true, nullptr},
+    {"mnuPrincipalNada2", nullptr, "", true, nullptr},
+    {"mnuPrincipalSalir", "&Salir", "F7", true, &MdiPrincipal::Salir},
+};
+
+const EntradaMenu kCalcular[] = {
+    {"mnuCalcularFlexion", "Refuerzo a &flexión. Sección rectangular", "Ctrl+R", true, &MdiPrincipal::NuevaFlexion},
+    {"mnuCalcularFlexionT", "Refuerzo a fle&xión. Sección en T", "Ctrl+T", true, &MdiPrincipal::NuevaFlexionT},
+    {"mnuCalcularConfina", "Refuerzo a con&finamiento", "Ctrl+C", true, &MdiPrincipal::NuevoConfinamiento},
+    {"mnuCalcularNada1", nullptr, "", true, nullptr},
+    {"mnuCalcularCarac", "Ca&racterísticas mecánicas del refuerzo", "", true, &MdiPrincipal::Caracteristicas},
+};
+
+const EntradaMenu kAyuda[] = {
+    {"mnuAyudaPrograma", "Ayuda del programa", "F1", true, nullptr},
+    {"mnuAyudaManual", "Manual de referencia", "", true, nullptr},
+    {"mnuAyudaNada1", nullptr, "", true, nullptr},
+    {"mnuAyudaWeb", "Velmora en la web", "", true, nullptr},
+    {"mnuAyudaContactar", "Contactar con Velmora", "", true, nullptr},
+    {"mnuAyudaNada2", nullptr, "", true, nullptr},
+    {"mnuAyudaAcerca", "Acerca de...", "", true, &MdiPrincipal::AcercaDe},
+};
+
+const Menu kMenus[] = {
+    {"mnuPrincipal", "&Principal", kPrincipal},
+    {"mnuCalcular", "&Calcular", kCalcular},
+    {"mnuAyuda", "&Ayuda", kAyuda},
+};
+
+// The toolbar buttons after the leading separator: key, tooltip and picture.
+struct BotonBarra {
+    const char* clave;
+    const char* consejo;
+    const char* imagen;
+};
+
+constexpr BotonBarra kBotones[] = {
+    {"Abrir", "Abrir", "abrir"},
+    {"Guardar", "Guardar", "guardar"},
+    {"Imprimir", "Imprimir", "imprimir"},
+    {"Carac", "Características mecánicas", "carac"},
+    {"FlexionR", "Refuerzo a flexión. Sección rectangular", "flexion_r"},
+    {"FlexionT", "Refuerzo a flexión. Sección en T", "flexion_t"},
+    {"Confina", "Refuerzo de confinamiento", "confina"},
+    {"Ayuda", "Ayuda del programa", "ayuda"},
+    {"Guia", "Manual de referencia", "guia"},
+    {"Web", "Velmora en la web", "web"},
+    {"Mail", "Contactar con Velmora", "mail"},
+    {"Info", "Acerca de...", "info"},
+};
+
+constexpr int kBotonGuardar = 3;
+constexpr int kBotonImprimir = 4;
+
+}  // namespace
+
+QString NombrePantalla(Pantalla pantalla)
+{
+    switch (pantalla) {
+    case Pantalla::Flexion: return QStringLiteral("FM_FLEXION");
+    case Pantalla::FlexionT: return QStringLiteral("FM_FLEXIONT");
+    case Pantalla::Confina: return QStringLiteral("FM_CONFINA");
+    case Pantalla::Carac: return QStringLiteral("FM_CARAC");
+    }
+    return {};
+}
+
+MdiPrincipal::MdiPrincipal(QWidget* padre) : QMainWindow(padre)
+{
+    setObjectName(QStringLiteral("MDI_PRINCIPAL"));
+    setWindowTitle(QStringLiteral("VELMORA - Programa para el cálculo del refuerzo TEXALON®"));
+
+    area_ = new QMdiArea(this);
+    area_->setObjectName(QStringLiteral("AreaPantallas"));
+    area_->setBackground(palette().brush(QPalette::Dark));
+    area_->viewport()->installEventFilter(this);
+    setCentralWidget(area_);
+
+    CreaMenu();
+    CreaBarra();
+    qApp->installEventFilter(this);
+    resize(kAncho, kAlto);
+    Carga();
+}
+
+void MdiPrincipal::Carga()
+{
+    General& g = Estado();
+    g.F_ERROR = false;
+    g.F_PRESENTACION = false;
+    g.F_ABIERTO = false;
+    g.F_CALCULADO = false;
+    g.F_GRABADO = false;
+    g.F_MODIFICADO = false;
+    g.F_MAPI = false;
+    g.F_FLEXION = false;
+    g.F_FLEXIONT = false;
+    g.F_CONFINA = false;
+    g.F_CARAC = false;
+    g.F_NUEVO = true;
+
+    if (!ResolucionSuficiente()) {
+        plataforma::MsgBox(QStringLiteral("La resolución mínima requerida por la aplicación es 800x600.\r"
+                                          "Cambie la resolución de su ordenador y vuelva a ejecutar el programa."),
+                           plataforma::Estilo::Parada);
+        plataforma::ServicioProceso().Termina(1);
+        return;
+    }
+
+    presentacion_ = new FmPresentacion(this);
+    presentacion_->show();
+
+    ValoresIniciales(g);
+    cargada_ = true;
+}
+
+bool MdiPrincipal::ResolucionSuficiente() const
+{
+    // Deliberately an And: a screen is refused only when it is short in both directions.
+    const QSizeF pantalla = plataforma::ServicioMonitor().Tamano();
+    return !(pantalla.width() < kAncho && pantalla.height() < kAlto);
+}
+
+void MdiPrincipal::CreaMenu()
+{
+    for (const Menu& definicion : kMenus) {
+        QMenu* menu = menuBar()->addMenu(QString::fromUtf8(definicion.titulo));
+        menu->setObjectName(QString::fromLatin1(definicion.nombre));
+        menu->menuAction()->setObjectName(QString::fromLatin1(definicion.nombre));
+        connect(menu, &QMenu::aboutToShow, this, &MdiPrincipal::CierraPresentacion);
+        for (const EntradaMenu& entrada : definicion.entradas) {
+            QAction* accion = entrada.titulo == nullptr ? menu->addSeparator()
+                                                        : menu->addAction(QString::fromUtf8(entrada.titulo));
+            accion->setObjectName(QString::fromLatin1(entrada.nombre));
+            accion->setEnabled(entrada.activo);
+            const QKeySequence atajo(QString::fromLatin1(entrada.atajo));
+            if (!atajo.isEmpty()) {
+                accion->setShortcut(atajo);
+                accion->setShortcutContext(Qt::WindowShortcut);
+                atajos_ << atajo;
+            }
+            if (entrada.orden != nullptr) connect(accion, &QAction::triggered, this, entrada.orden);
+        }
+    }
+}
+
+void MdiPrincipal::CreaBarra()
+{
+    barra_ = addToolBar(QStringLiteral("TB_BARRA"));
+    barra_->setObjectName(QStringLiteral("TB_BARRA"));
+    barra_->setMovable(false);
+    barra_->setFloatable(false);
+    barra_->setContextMenuPolicy(Qt::PreventContextMenu);
+    barra_->setIconSize(QSize(24, 24));
+    barra_->addSeparator();
+    for (const BotonBarra& boton : kBotones) {
+        const QString clave = QString::fromLatin1(boton.clave);
+        QAction* accion = barra_->addAction(
+            QIcon(QStringLiteral(":/iconos/%1.svg").arg(QString::fromLatin1(boton.imagen))), QString::fromUtf8(boton.consejo));
+        accion->setObjectName(clave);
+        accion->setData(clave);
+        accion->setToolTip(QString::fromUtf8(boton.consejo));
+    }
+    Boton(kBotonGuardar)->setEnabled(false);
+    Boton(kBotonImprimir)->setEnabled(false);
+    connect(barra_, &QToolBar::actionTriggered, this,
+            [this](QAction* accion) { TB_BARRA_ButtonClick(accion->data().toString()); });
+}
+
+QAction* MdiPrincipal::ElementoMenu(const QString& nombre) const
+{
+    for (QAction* accion : menuBar()->findChildren<QAction*>(nombre))
+        if (!accion->menu() || accion->objectName() == nombre) return accion;
+    return nullptr;
+}
+
+QAction* MdiPrincipal::Boton(int indice) const
+{
+    const QList<QAction*> botones = barra_->actions();
+    return indice >= 1 && indice <= botones.size() ? botones.at(indice - 1) : nullptr;
+}
+
+void MdiPrincipal::CierraPresentacion()
+{
+    if (Estado().F_PRESENTACION && presentacion_) presentacion_->close();
+}
+
+void MdiPrincipal::ActivaGuardarEImprimir(bool guardar, bool imprimir)
+{
+    ElementoMenu(QStringLiteral("mnuPrincipalGuardar"))->setEnabled(guardar);
+    ElementoMenu(QStringLiteral("mnuPrincipalGuardarcomo"))->setEnabled(guardar);
+    ElementoMenu(QStringLiteral("mnuPrincipalImprimir"))->setEnabled(imprimir);
+    Boton(kBotonImprimir)->setEnabled(imprimir);
+}
+
+void MdiPrincipal::PantallaActivada(Pantalla pantalla)
+{
+    if (pantalla == Pantalla::Carac) {
+        // The characteristics have no file: button 3 stays as the last unload left it.
+        ActivaGuardarEImprimir(false, true);
+        return;
+    }
+    ActivaGuardarEImprimir(true, true);
+    Boton(kBotonGuardar)->setEnabled(true);
+}
+
+void MdiPrincipal::PantallaDescargada()
+{
+    ActivaGuardarEImprimir(false, false);
+    Boton(kBotonGuardar)->setEnabled(false);
+}
+
+QMdiSubWindow* MdiPrincipal::Ventana(Pantalla pantalla) const
+{
+    for (QMdiSubWindow* ventana : area_->subWindowList())
+        if (ventana->widget() != nullptr && ventana->widget()->objectName() == NombrePantalla(pantalla)) return ventana;
+    return nullptr;
+}
+
+void MdiPrincipal::CierraPantallaAbierta()
+{
+    const General& g = Estado();
+    const std::pair<const bool*, Pantalla> orden[] = {
+        {&g.F_FLEXION, Pantalla::Flexion},
+        {&g.F_CONFINA, Pantalla::Confina},
+        {&g.F_CARAC, Pantalla::Carac},
+        {&g.F_FLEXIONT, Pantalla::FlexionT},
+    };
+    for (const auto& [abierta, pantalla] : orden)
+        if (*abierta)
+            if (QMdiSubWindow* ventana = Ventana(pantalla)) ventana->close();
+}
+
+void MdiPrincipal::NuevaPantalla(void (*valoresIniciales)(General&))
+{
+    Estado().F_ABIERTO = false;
+    CierraPantallaAbierta();
+    valoresIniciales(Estado());
+}
+
+void MdiPrincipal::NuevaFlexion() { NuevaPantalla(&ValoresFlexion); }
+
+void MdiPrincipal::NuevaFlexionT() { NuevaPantalla(&ValoresFlexion); }
+
+void MdiPrincipal::NuevoConfinamiento() { NuevaPantalla(&ValoresNuevoConfinamiento); }
+
+void MdiPrincipal::Caracteristicas()
+{
+    // Neither F_ABIERTO nor any field is touched: only the open screen goes.
+    CierraPantallaAbierta();
+}
+
+void MdiPrincipal::AcercaDe()
+{
+    Estado().F_ERROR = false;
+    FmAcercaDe caja(this);
+    plataforma::ServicioVentanas().MuestraModal(caja);
+}
+
+void MdiPrincipal::Salir()
+{
+    CierraPantallaAbierta();
+    plataforma::ServicioProceso().Termina(0);
+}
+
+void MdiPrincipal::TB_BARRA_ButtonClick(const QString& clave)
+{
+    barra_->update();
+    CierraPresentacion();
+    if (clave == QLatin1String("Carac")) Caracteristicas();
+    if (clave == QLatin1String("FlexionR")) NuevaFlexion();
+    if (clave == QLatin1String("FlexionT")) NuevaFlexionT();
+    if (clave == QLatin1String("Confina")) NuevoConfinamiento();
+    if (clave == QLatin1String("Info")) AcercaDe();
+}
+
+void MdiPrincipal::DevuelveTamano()
+{
+    // The window can be minimised and restored, but neither maximised nor stretched: any
+    // attempt springs back to 800 by 600, frame included.
+    if (ajustando_ || isMinimized()) return;
+    ajustando_ = true;
+    if (windowState() & (Qt::WindowMaximized | Qt::WindowFullScreen))
+        setWindowState(windowState() & ~(Qt::WindowMaximized | Qt::WindowFullScreen));
+    const QSize marco = (frameGeometry().size() - size()).expandedTo(QSize(0, 0));
+    const QSize objetivo = QSize(kAncho, kAlto) - marco;
+    if (size() != objetivo) resize(objetivo);
+    ajustando_ = false;
+}
+
+void MdiPrincipal::showEvent(QShowEvent* evento)
+{
+    // The frame is known once the window is on the screen: 800 by 600 is its outer size.
+    QMainWindow::showEvent(evento);
+    DevuelveTamano();
+    CentraPresentacion();
+}
+
+void MdiPrincipal::moveEvent(QMoveEvent* evento)
+{
+    // A window manager tells the size of its frame when it places the window: the outer size
+    // is set again then, and the splash follows the window.
+    QMainWindow::moveEvent(evento);
+    DevuelveTamano();
+    CentraPresentacion();
+}
+
+void MdiPrincipal::CentraPresentacion()
+{
+    if (presentacion_) presentacion_->move(frameGeometry().center() - presentacion_->rect().center());
+}
+
+void MdiPrincipal::resizeEvent(QResizeEvent* evento)
+{
+    QMainWindow::resizeEvent(evento);
+    DevuelveTamano();
+}
+
+void MdiPrincipal::changeEvent(QEvent* evento)
+{
+    QMainWindow::changeEvent(evento);
+    if (evento->type() == QEvent::WindowStateChange) DevuelveTamano();
+    // While the splash is up it keeps the focus, and with it the front of the main window.
+    if (evento->type() == QEvent::ActivationChange && isActiveWindow() && presentacion_) {
+        presentacion_->raise();
+        presentacion_->activateWindow();
+    }
+}
+
+void MdiPrincipal::closeEvent(QCloseEvent* evento)
+{
+    // The screen goes first, through its own unload and prompt; then the process ends.
+    area_->closeAllSubWindows();
+    evento->accept();
+    QApplication::quit();
+}
+
+bool MdiPrincipal::eventFilter(QObject* objeto, QEvent* evento)
+{
+    // A click on the empty background of the main window closes the splash.
+    if (objeto == area_->viewport() && evento->type() == QEvent::MouseButtonPress) CierraPresentacion();
+
+    // The menu's shortcuts win over the text fields' own, whatever has the focus: Ctrl+C
+    // starts a new confinement calculation and does not copy.
+    if (evento->type() == QEvent::ShortcutOverride) {
+        auto* widget = qobject_cast<QWidget*>(objeto);
+        const auto* tecla = static_cast<QKeyEvent*>(evento);
+        if (widget != nullptr && widget->window() == this && atajos_.contains(QKeySequence(tecla->keyCombination())))
+            return true;
+    }
+    return QMainWindow::eventFilter(objeto, evento);
+}
+
+}  // namespace texalon

@@ -1,0 +1,94 @@
+// The main window, MDI_PRINCIPAL: the menu, the toolbar TB_BARRA and the area that holds the
+// one calculation screen open at a time.
+#pragma once
+
+#include "shell/FmPresentacion.h"
+#include "state/General.h"
+
+#include <QKeySequence>
+#include <QList>
+#include <QMainWindow>
+#include <QPointer>
+
+class QMdiArea;
+class QMdiSubWindow;
+class QToolBar;
+
+namespace texalon {
+
+// The four calculation screens, each known to the shell by its window name.
+enum class Pantalla { Flexion, FlexionT, Confina, Carac };
+
+class MdiPrincipal : public QMainWindow {
+    Q_OBJECT
+public:
+    static constexpr int kAncho = 800;  // 12000 twips at 15 twips a pixel
+    static constexpr int kAlto = 600;   // 9000 twips
+
+    // Creates the window and runs its load: the flags, the resolution test, the splash and the
+    // start values of the project. A screen too small ends the process there.
+    explicit MdiPrincipal(QWidget* padre = nullptr);
+
+    // False when the load ended the process because the screen is too small.
+    bool Cargada() const { return cargada_; }
+
+    QMdiArea* Area() const { return area_; }
+    // The splash while it is up.
+    FmPresentacion* Presentacion() const { return presentacion_; }
+    // A menu item by its name ("mnuPrincipalGuardar").
+    QAction* ElementoMenu(const QString& nombre) const;
+    // A toolbar button by its place from 1, the leading separator counted as button 1.
+    QAction* Boton(int indice) const;
+    QToolBar* Barra() const { return barra_; }
+
+    // Menu and toolbar follow the active screen: each screen calls these on its activation
+    // and on its unload.
+    void PantallaActivada(Pantalla pantalla);
+    void PantallaDescargada();
+
+    // Unloads the open calculation screen, if any, through its close prompt.
+    void CierraPantallaAbierta();
+
+    // The commands of the menu and the toolbar.
+    void NuevaFlexion();
+    void NuevaFlexionT();
+    void NuevoConfinamiento();
+    void Caracteristicas();
+    void AcercaDe();
+    void Salir();
+
+    // The one click handler of the toolbar, told the button's key ("Abrir", "FlexionR"...).
+    void TB_BARRA_ButtonClick(const QString& clave);
+
+protected:
+    void showEvent(QShowEvent* evento) override;
+    void moveEvent(QMoveEvent* evento) override;
+    void resizeEvent(QResizeEvent* evento) override;
+    void changeEvent(QEvent* evento) override;
+    void closeEvent(QCloseEvent* evento) override;
+    bool eventFilter(QObject* objeto, QEvent* evento) override;
+
+private:
+    void Carga();
+    bool ResolucionSuficiente() const;
+    void CreaMenu();
+    void CreaBarra();
+    void CierraPresentacion();
+    void CentraPresentacion();
+    void DevuelveTamano();
+    void ActivaGuardarEImprimir(bool guardar, bool imprimir);
+    void NuevaPantalla(void (*valoresIniciales)(General&));
+    QMdiSubWindow* Ventana(Pantalla pantalla) const;
+
+    QMdiArea* area_ = nullptr;
+    QToolBar* barra_ = nullptr;
+    QPointer<FmPresentacion> presentacion_;
+    QList<QKeySequence> atajos_;
+    bool cargada_ = false;
+    bool ajustando_ = false;
+};
+
+// The window name of a calculation screen: "FM_FLEXION", "FM_FLEXIONT", "FM_CONFINA", "FM_CARAC".
+QString NombrePantalla(Pantalla pantalla);
+
+}  // namespace texalon
