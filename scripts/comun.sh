@@ -1,0 +1,51 @@
+# Shared steps of run.sh and test.sh: what Debian 12 must have, and the builds.
+# Sourced, not run.
+
+# Packages the program, its build and its tests need, all from Debian 12.
+PAQUETES=(
+  g++ cmake make pkgconf
+  qt6-base-dev qt6-base-dev-tools qt6-svg-dev libqt6svg6 qt6-translations-l10n libgl-dev
+  libgtest-dev googletest libbenchmark-dev
+  fonts-liberation locales
+)
+
+# Regional settings the tests run under: Spanish (comma) and English (period).
+AJUSTES_REGIONALES=(es_ES.UTF-8 en_US.UTF-8)
+
+como_root() {
+  if [ "$(id -u)" -eq 0 ]; then "$@"; else sudo "$@"; fi
+}
+
+instala_dependencias() {
+  local faltan=()
+  for paquete in "${PAQUETES[@]}" "$@"; do
+    dpkg-query -W -f='${Status}' "$paquete" 2>/dev/null | grep -q "install ok installed" || faltan+=("$paquete")
+  done
+  if [ ${#faltan[@]} -gt 0 ]; then
+    echo "Instalando: ${faltan[*]}"
+    como_root apt-get update -qq
+    como_root env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends "${faltan[@]}"
+  fi
+  genera_ajustes_regionales
+}
+
+genera_ajustes_regionales() {
+  local generar=0
+  for ajuste in "${AJUSTES_REGIONALES[@]}"; do
+    local nombre="${ajuste%.UTF-8}.utf8"
+    if ! locale -a 2>/dev/null | grep -qx "$nombre"; then
+      como_root sed -i "s/^# *\(${ajuste} UTF-8\)/\1/" /etc/locale.gen
+      grep -q "^${ajuste} UTF-8" /etc/locale.gen || echo "${ajuste} UTF-8" | como_root tee -a /etc/locale.gen >/dev/null
+      generar=1
+    fi
+  done
+  if [ $generar -eq 1 ]; then como_root locale-gen >/dev/null; fi
+}
+
+# construye DIRECTORIO TIPO [opciones de CMake...]
+construye() {
+  local directorio=$1 tipo=$2
+  shift 2
+  cmake -S . -B "$directorio" -DCMAKE_BUILD_TYPE="$tipo" "$@" >/dev/null
+  cmake --build "$directorio" -j"$(nproc)"
+}
