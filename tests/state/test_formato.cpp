@@ -1,5 +1,7 @@
 #include "state/Formato.h"
 
+#include "state/Decimales.h"
+
 #include <gtest/gtest.h>
 
 #include <cmath>
@@ -242,6 +244,20 @@ TEST(FormatoTexto, CuentaCaracteresNoBytes)
 {
     EXPECT_EQ(FormatoTexto("−5", "@@@@"), "  −5");
     EXPECT_EQ(FormatoTexto("ángulo", "@@@@@@@@"), "  ángulo");
+}
+
+}  // namespace
+}  // namespace texalon
+
+namespace texalon {
+namespace {
+
+// A field reads its text with Decimales, keeps the absolute value and writes it back.
+TEST(Formato, MenosDosComaCincoSeReescribeComoDosComaQuinientos)
+{
+    EXPECT_EQ(Formato(std::fabs(Decimales("-2,5")), "0.000", ','), "2,500");
+    EXPECT_EQ(Formato(std::fabs(Decimales("-2,5")), "0.000", '.'), "2.500");
+    EXPECT_EQ(Formato(Decimales("0,05"), "0.000", ','), "0,050");
 }
 
 }  // namespace
