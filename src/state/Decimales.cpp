@@ -67,6 +67,8 @@ private:
 // cannot overflow; any double is far inside it.
 constexpr long long kTopeExponente = 1000000000LL;
 
+}  // namespace
+
 // The classic plain number reading (BASIC Val) with the period as the only
 // decimal separator. The digits found are gathered into a clean text and
 // converted with from_chars, so the result is correctly rounded.
@@ -129,7 +131,6 @@ double LecturaSimple(std::string_view texto)
     return negativo ? -valor : valor;
 }
 
-}  // namespace
 
 double Decimales(std::string_view texto)
 {

@@ -16,6 +16,10 @@ namespace texalon {
 // text with EsNumerico first, which refuses such text. Underflow gives 0.
 double Decimales(std::string_view texto);
 
+// The plain number reading that Decimales ends with, with the period as the
+// only decimal separator: the project files read their values with it.
+double LecturaSimple(std::string_view texto);
+
 // True when the text is a number written with '.' or ',' as decimal separator:
 // optional blanks (space, tab) around it, an optional sign, digits and
 // separators (at least one digit, never two separators together), and an

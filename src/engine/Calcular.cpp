@@ -1,0 +1,92 @@
+#include "engine/Calcular.h"
+
+#include "engine/Calculos.h"
+#include "state/Catalogo.h"
+
+namespace texalon {
+
+namespace {
+
+// The result arrays of one kind of calculation, allocated anew and cleared.
+void Asigna(General& g, std::initializer_list<Arreglo<double>*> arreglos)
+{
+    for (Arreglo<double>* arreglo : arreglos) arreglo->Redimensiona(g.NTIPOS, g.MAXCAPAS);
+}
+
+// The largest value of a result array; the mark -999.0 never wins over the start at 0.
+double Maximo(const General& g, const Arreglo<double>& valores)
+{
+    double maximo = 0.0;
+    for (int t = 1; t <= g.NTIPOS; ++t)
+        for (int n = 1; n <= g.MAXCAPAS; ++n)
+            if (valores(t, n) > maximo) maximo = valores(t, n);
+    return maximo;
+}
+
+}  // namespace
+
+std::string_view TextoVeredicto(Veredicto veredicto)
+{
+    switch (veredicto) {
+    case Veredicto::NoEsNecesario: return " NO ES NECESARIO REFORZAR LA SECCION ";
+    case Veredicto::NoSePuede: return " NO SE PUEDE REFORZAR LA SECCION ";
+    case Veredicto::Oculto: break;
+    }
+    return "";
+}
+
+ResultadoCalculo CalculaFlexion(General& g, Entero seccion, const LeeCampos& leeCampos)
+{
+    Asigna(g, {&g.MU, &g.FN, &g.MRB, &g.XRB, &g.MLIMSR, &g.MLIMCR, &g.XLIM, &g.EPSC, &g.EPSSI, &g.EPSSS, &g.EPSR});
+    g.PIVOTE.Redimensiona(g.NTIPOS, g.MAXCAPAS);
+    g.F_CALCULANDO = true;
+    if (leeCampos) leeCampos(g);
+
+    ResultadoCalculo resultado;
+    Predeformacion(g, seccion);
+    // Over the limit the calculation stops; F_CALCULANDO stays True so that the grid's
+    // selection handler stays idle over the cleared arrays.
+    if (g.EPS0 > kPredeformacionMaxima) {
+        resultado.predeformacionExcesiva = true;
+        return resultado;
+    }
+
+    const auto rotura = seccion == kSeccionT ? &RoturaT : &RoturaRectangular;
+    for (Entero t = 1; t <= g.NTIPOS; ++t)
+        rotura(g, g.ANCHO, g.CANTO, g.RECUB, g.ASI, g.ASS, g.ANCHOR, g.FCK, g.FYK, g.EPS0, g.MD, t);
+    const auto sinRefuerzo = seccion == kSeccionT ? &MomentoSinRefuerzoT : &MomentoSinRefuerzo;
+    sinRefuerzo(g, g.ANCHO, g.CANTO, g.RECUB, g.ASI, g.ASS, g.FCK, g.FYK);
+
+    g.MUMAX = Maximo(g, g.MU);
+    // A decision about MD alone: what the section carries by itself, what the best sheet reaches.
+    if (g.MD < g.MUSR)
+        resultado.veredicto = Veredicto::NoEsNecesario;
+    else if (g.MD > g.MUMAX)
+        resultado.veredicto = Veredicto::NoSePuede;
+    g.F_CALCULADO = true;
+    return resultado;
+}
+
+ResultadoCalculo CalculaConfinamiento(General& g, Entero forma, const LeeCampos& leeCampos)
+{
+    Asigna(g, {&g.WR, &g.WWD, &g.EPSRC, &g.SIGMAR, &g.TENSCONF, &g.RESU});
+    g.WC.Redimensiona(g.NTIPOS);
+    if (leeCampos) leeCampos(g);
+
+    ResultadoCalculo resultado;
+    PredeformacionConfina(g);
+    if (g.EPS0 > kPredeformacionMaxima) {
+        resultado.predeformacionExcesiva = true;
+        return resultado;
+    }
+
+    // The three types of the catalogue, always.
+    for (Entero t = 1; t <= kNumeroTipos; ++t) CalculoConfina(g, forma, g.DIAM, g.LADOMENOR, g.FCK, t);
+
+    g.RESUMAX = Maximo(g, g.RESU);
+    if (!(g.INCR <= g.RESUMAX)) resultado.veredicto = Veredicto::NoSePuede;
+    g.F_CALCULADO = true;
+    return resultado;
+}
+
+}  // namespace texalon

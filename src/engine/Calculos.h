@@ -1,0 +1,55 @@
+// The calculations of the program: initial strain, ultimate analysis of rectangular and T
+// sections with 1 to MAXCAPAS layers of sheet, the moment without sheet, confinement of
+// columns and anchorage length.
+//
+// Each procedure takes the project state it reads and writes, then its own arguments in the
+// program's order, writes its results to the state and reports nothing. Lengths in m, steel
+// areas in cm², strengths in N/mm², moments in mkN, axial loads in kN.
+#pragma once
+
+#include "state/General.h"
+
+namespace texalon {
+
+// Section kinds of the flexure screens, as the files and Predeformacion number them.
+constexpr Entero kSeccionRectangular = 1;
+constexpr Entero kSeccionT = 2;
+
+// Ultimate strains of the failure diagram and the modulus of the steel.
+constexpr double kDeformacionHormigon = 0.0035;  // pivot "B"
+constexpr double kDeformacionAcero = 0.01;       // pivot "A"
+constexpr double kModuloAcero = 200000.0;        // N/mm²
+// Every bisection and fixed-point loop ends at this tolerance, with no iteration limit.
+constexpr double kTolerancia = 0.00001;
+// MU holds this mark where a layer count, and all above it, brings no gain.
+constexpr double kSinMejora = -999.0;
+
+// EPS0 of a flexure section under MCP: 1 rectangular, 2 T; any other kind leaves EPS0.
+void Predeformacion(General& g, Entero tipo);
+
+// Fills the flexure result arrays of one sheet type for 1 to MAXCAPAS layers. MD is passed and
+// not used. The arrays must exist.
+void RoturaRectangular(General& g, double ANCHO, double CANTO, double RECUB, double ASI, double ASS, double ANCHOR,
+                       double FCK, double FYK, double EPS0, double MD, Entero tipo);
+// The same for a T section; the web width and flange depth come from the state.
+void RoturaT(General& g, double ANCHO, double CANTO, double RECUB, double ASI, double ASS, double ANCHOR, double FCK,
+             double FYK, double EPS0, double MD, Entero tipo);
+
+// MUSR, the ultimate moment of the section without sheet. When the search needs no step,
+// MUSR keeps the value of the previous Calculate.
+void MomentoSinRefuerzo(General& g, double ANCHO, double CANTO, double RECUB, double ASI, double ASS, double FCK,
+                        double FYK);
+void MomentoSinRefuerzoT(General& g, double ANCHO, double CANTO, double RECUB, double ASI, double ASS, double FCK,
+                         double FYK);
+
+// EPS0 of a column under the axial load NCP.
+void PredeformacionConfina(General& g);
+
+// Fills the confinement results of one sheet type for 1 to MAXCAPAS layers. forma: 1 circular,
+// 2 square, 3 rectangular. The arrays must exist.
+void CalculoConfina(General& g, Entero forma, double DIAM, double LADOMENOR, double FCK, Entero tipo);
+
+// LANC, the net anchorage length of every type and layer count.
+void LongitudAnclaje(General& g);
+
+}  // namespace texalon
