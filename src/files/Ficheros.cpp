@@ -1,0 +1,492 @@
+#include "files/Ficheros.h"
+
+#include "state/Decimales.h"
+#include "state/ErrorEjecucion.h"
+
+#include <cerrno>
+#include <charconv>
+#include <cmath>
+#include <cstdio>
+#include <filesystem>
+#include <new>
+#include <string_view>
+#include <system_error>
+
+namespace texalon {
+
+namespace {
+
+// Section kinds of line 1 of a flexure file.
+constexpr Entero kRectangular = 1;
+constexpr Entero kSeccionT = 2;
+
+// Section kinds of line 1 of a confinement file.
+constexpr Entero kCircular = 1;
+constexpr Entero kRectangularConfinada = 3;
+
+// Ranges that the readers accept, both ends included.
+constexpr double kFckMinimo = 15.0;
+constexpr double kFckMaximo = 50.0;
+constexpr double kFykMinimo = 300.0;
+constexpr double kFykMaximo = 600.0;
+constexpr double kIncrMinimo = 1.0;
+
+// Every line of a project file ends so, on any machine.
+constexpr std::string_view kFinDeLinea = "\r\n";
+
+// ---------------------------------------------------------------------------------------------
+// Run-time error numbers of the file layer.
+
+// The error number of a failed system call on an open file or on opening one.
+int NumeroDeErrorDelSistema(int codigo)
+{
+    switch (codigo) {
+        case ENOMEM:
+            return ErrorEjecucion::kMemoriaInsuficiente;
+        case ENOSPC:
+        case EDQUOT:
+            return ErrorEjecucion::kDiscoLleno;
+        case EACCES:
+        case EPERM:
+        case EROFS:
+            return ErrorEjecucion::kPermisoDenegado;
+        case ENOTDIR:
+            return ErrorEjecucion::kRutaNoEncontrada;
+        case EISDIR:
+            return ErrorEjecucion::kErrorDeAccesoRuta;
+        default:
+            return ErrorEjecucion::kErrorDeEntradaSalida;
+    }
+}
+
+// The system says "no such file" both for a missing file and for a missing directory on the
+// way to it; the user is told which of the two it is.
+int NumeroDeErrorAlAbrir(int codigo, const std::string& fichero)
+{
+    if (codigo != ENOENT) return NumeroDeErrorDelSistema(codigo);
+    const std::filesystem::path padre = std::filesystem::path(fichero).parent_path();
+    std::error_code sin_excepcion;
+    if (!padre.empty() && !std::filesystem::is_directory(padre, sin_excepcion))
+        return ErrorEjecucion::kRutaNoEncontrada;
+    return ErrorEjecucion::kArchivoNoEncontrado;
+}
+
+[[noreturn]] void LanzaErrorDelSistema(int codigo)
+{
+    throw ErrorEjecucion(NumeroDeErrorDelSistema(codigo));
+}
+
+// ---------------------------------------------------------------------------------------------
+// The file channel: one open file, closed on leaving the procedure whatever happens.
+
+class Canal {
+public:
+    Canal(const std::string& fichero, const char* modo)
+    {
+        // An empty name, or one with a NUL inside that the system would cut short, names no
+        // file at all.
+        if (fichero.empty() || fichero.find('\0') != std::string::npos)
+            throw ErrorEjecucion(ErrorEjecucion::kNombreDeArchivoIncorrecto);
+        errno = 0;
+        fichero_ = std::fopen(fichero.c_str(), modo);
+        if (fichero_ == nullptr) throw ErrorEjecucion(NumeroDeErrorAlAbrir(errno, fichero));
+    }
+    Canal(const Canal&) = delete;
+    Canal& operator=(const Canal&) = delete;
+    ~Canal()
+    {
+        // Only reached with the file still open when an error is already on its way.
+        if (fichero_ != nullptr) std::fclose(fichero_);
+    }
+
+    std::FILE* Fichero() const { return fichero_; }
+
+    // Closes the file and tells whether the system could finish writing it.
+    void Cierra()
+    {
+        std::FILE* abierto = fichero_;
+        fichero_ = nullptr;
+        errno = 0;
+        if (std::fclose(abierto) != 0) LanzaErrorDelSistema(errno);
+    }
+
+private:
+    std::FILE* fichero_ = nullptr;
+};
+
+// ---------------------------------------------------------------------------------------------
+// Reading values: the classic sequential input of a numeric variable.
+
+bool EsBlanco(int c)
+{
+    return c == ' ' || c == '\t';
+}
+
+bool EsFinDeLinea(int c)
+{
+    return c == '\r' || c == '\n';
+}
+
+// Rounds half-way cases to the even neighbour, as the classic conversion to an integer does,
+// whatever rounding mode the floating-point unit happens to be in.
+double RedondeoAlPar(double valor)
+{
+    const double abajo = std::floor(valor);
+    const double resto = valor - abajo;
+    if (resto < 0.5) return abajo;
+    if (resto > 0.5) return abajo + 1.0;
+    return std::fmod(abajo, 2.0) == 0.0 ? abajo : abajo + 1.0;
+}
+
+class LectorValores {
+public:
+    explicit LectorValores(std::FILE* fichero) : fichero_(fichero) {}
+
+    // The next value as a double: text that is no number reads 0.
+    double LeeDoble()
+    {
+        const double valor = LecturaSimple(LeeTexto());
+        if (!std::isfinite(valor)) throw ErrorEjecucion(ErrorEjecucion::kDesbordamiento);
+        return valor;
+    }
+
+    // The next value as one of the program's 16-bit integers.
+    Entero LeeEntero()
+    {
+        const double entero = RedondeoAlPar(LeeDoble());
+        if (entero < -32768.0 || entero > 32767.0) throw ErrorEjecucion(ErrorEjecucion::kDesbordamiento);
+        return static_cast<Entero>(entero);
+    }
+
+private:
+    int Caracter()
+    {
+        errno = 0;
+        const int c = std::getc(fichero_);
+        if (c == EOF && std::ferror(fichero_) != 0) LanzaErrorDelSistema(errno);
+        return c;
+    }
+
+    // A CR may stand alone as a line end or be followed by its LF; the pair is one line end.
+    void SaltaLfTrasCr()
+    {
+        const int c = Caracter();
+        if (c != '\n' && c != EOF) std::ungetc(c, fichero_);
+    }
+
+    // The text of the next value, without its leading blanks and without what ends it (a comma
+    // or a line end, which is consumed). An empty line gives an empty text.
+    std::string LeeTexto()
+    {
+        int c = Caracter();
+        while (EsBlanco(c))
+            c = Caracter();
+        if (c == EOF) throw ErrorEjecucion(ErrorEjecucion::kEntradaPasadoElFinal);
+
+        std::string texto;
+        while (c != EOF && c != ',' && !EsFinDeLinea(c)) {
+            texto.push_back(static_cast<char>(c));
+            c = Caracter();
+        }
+        if (c == '\r') SaltaLfTrasCr();
+        return texto;
+    }
+
+    std::FILE* fichero_;
+};
+
+// ---------------------------------------------------------------------------------------------
+// Writing values.
+
+// A double in plain decimal with a period: the shortest text that reads back to the same value,
+// without a decimal part when the value is whole. A negative zero is written as 0.
+void AnadeLinea(std::string& texto, double valor)
+{
+    if (valor == 0.0) valor = 0.0;
+    // The longest fixed form of a double (the largest one) has 309 digits and a sign.
+    char cifras[400];
+    const auto escrito = std::to_chars(cifras, cifras + sizeof cifras, valor, std::chars_format::fixed);
+    texto.append(cifras, escrito.ptr);
+    texto.append(kFinDeLinea);
+}
+
+void AnadeLinea(std::string& texto, Entero valor)
+{
+    char cifras[8];
+    const auto escrito = std::to_chars(cifras, cifras + sizeof cifras, valor);
+    texto.append(cifras, escrito.ptr);
+    texto.append(kFinDeLinea);
+}
+
+// Replaces the file with the text. A file the system could only write in part stays as it is.
+void EscribeFichero(const std::string& fichero, const std::string& texto)
+{
+    Canal canal(fichero, "wb");
+    errno = 0;
+    if (std::fwrite(texto.data(), 1, texto.size(), canal.Fichero()) != texto.size()) LanzaErrorDelSistema(errno);
+    // A full disk often shows only when the buffer goes to the device.
+    errno = 0;
+    if (std::fflush(canal.Fichero()) != 0) LanzaErrorDelSistema(errno);
+    canal.Cierra();
+}
+
+// ---------------------------------------------------------------------------------------------
+// The single error trap of the four procedures.
+
+// Runs the part of a procedure that may meet a run-time error. Such an error sets F_ERROR and
+// is told to the user; the answer says whether the part ran through. The file is closed by then.
+template <typename Parte>
+bool BajoTrampaDeErrores(General& g, const Aviso& aviso, Parte&& parte)
+{
+    int numero = 0;
+    try {
+        parte();
+        return true;
+    } catch (const ErrorEjecucion& error) {
+        numero = error.Numero();
+    } catch (const std::bad_alloc&) {
+        numero = ErrorEjecucion::kMemoriaInsuficiente;
+    }
+    g.F_ERROR = true;
+    if (aviso) aviso(MensajeErrorFichero(numero));
+    return false;
+}
+
+bool EnIntervalo(double valor, double minimo, double maximo)
+{
+    return valor >= minimo && valor <= maximo;
+}
+
+// ---------------------------------------------------------------------------------------------
+// Flexure file.
+
+// The values of a flexure file, as read, signs included. A rectangular file has no web width
+// and no flange depth.
+struct DatosFlexion {
+    double ANCHO = 0.0;
+    double CANTO = 0.0;
+    double ANCHOALMA = 0.0;
+    double CANTOALA = 0.0;
+    double RECUB = 0.0;
+    double ASI = 0.0;
+    double ASS = 0.0;
+    double FCK = 0.0;
+    double FYK = 0.0;
+    double GC = 0.0;
+    double GS = 0.0;
+    double GR = 0.0;
+    double ANCHOR = 0.0;
+    double MCP = 0.0;
+    double MD = 0.0;
+};
+
+// Any kind other than T is read as a rectangular file; the checks refuse the unknown ones.
+DatosFlexion LeeDatosFlexion(LectorValores& lector, Entero tipo)
+{
+    DatosFlexion d;
+    d.ANCHO = lector.LeeDoble();
+    d.CANTO = lector.LeeDoble();
+    if (tipo == kSeccionT) {
+        d.ANCHOALMA = lector.LeeDoble();
+        d.CANTOALA = lector.LeeDoble();
+    }
+    d.RECUB = lector.LeeDoble();
+    d.ASI = lector.LeeDoble();
+    d.ASS = lector.LeeDoble();
+    d.FCK = lector.LeeDoble();
+    d.FYK = lector.LeeDoble();
+    d.GC = lector.LeeDoble();
+    d.GS = lector.LeeDoble();
+    d.GR = lector.LeeDoble();
+    d.ANCHOR = lector.LeeDoble();
+    d.MCP = lector.LeeDoble();
+    d.MD = lector.LeeDoble();
+    return d;
+}
+
+// The checks run on the values as read: a negative pair of widths that passes them is kept as
+// positive values afterwards, which the screens would not allow; that is intended.
+bool CompruebaFlexion(const DatosFlexion& d, Entero tipo)
+{
+    const bool es_t = tipo == kSeccionT;
+    if (tipo != kRectangular && !es_t) return false;
+    // The sheet lies under the web of a T section and under the whole width of a rectangle.
+    if (d.ANCHOR > (es_t ? d.ANCHOALMA : d.ANCHO)) return false;
+    if (d.ANCHO == 0.0 || d.CANTO == 0.0) return false;
+    if (es_t && (d.ANCHOALMA == 0.0 || d.CANTOALA == 0.0)) return false;
+    if (d.RECUB == 0.0 || d.ASI == 0.0 || d.ANCHOR == 0.0) return false;
+    if (es_t && d.CANTOALA > d.CANTO) return false;
+    if (!EnIntervalo(d.FCK, kFckMinimo, kFckMaximo)) return false;
+    if (!EnIntervalo(d.FYK, kFykMinimo, kFykMaximo)) return false;
+    return d.CANTO / 2.0 >= d.RECUB;
+}
+
+// A rectangular file leaves the web width and flange depth of the state as they were.
+void GuardaFlexion(General& g, const DatosFlexion& d, Entero tipo)
+{
+    g.ANCHO = std::fabs(d.ANCHO);
+    g.CANTO = std::fabs(d.CANTO);
+    if (tipo == kSeccionT) {
+        g.ANCHOALMA = std::fabs(d.ANCHOALMA);
+        g.CANTOALA = std::fabs(d.CANTOALA);
+    }
+    g.RECUB = std::fabs(d.RECUB);
+    g.ASI = std::fabs(d.ASI);
+    g.ASS = std::fabs(d.ASS);
+    g.FCK = std::fabs(d.FCK);
+    g.FYK = std::fabs(d.FYK);
+    g.ANCHOR = std::fabs(d.ANCHOR);
+    g.MCP = std::fabs(d.MCP);
+    g.MD = std::fabs(d.MD);
+    g.GC = std::fabs(d.GC);
+    g.GS = std::fabs(d.GS);
+    g.GR = std::fabs(d.GR);
+}
+
+std::string TextoFlexion(const General& g, Entero tipo)
+{
+    std::string texto;
+    AnadeLinea(texto, tipo);
+    AnadeLinea(texto, g.ANCHO);
+    AnadeLinea(texto, g.CANTO);
+    if (tipo == kSeccionT) {
+        AnadeLinea(texto, g.ANCHOALMA);
+        AnadeLinea(texto, g.CANTOALA);
+    }
+    for (double valor : {g.RECUB, g.ASI, g.ASS, g.FCK, g.FYK, g.GC, g.GS, g.GR, g.ANCHOR, g.MCP, g.MD})
+        AnadeLinea(texto, valor);
+    return texto;
+}
+
+// ---------------------------------------------------------------------------------------------
+// Confinement file.
+
+// The values of a confinement file, as read, signs included.
+struct DatosConfina {
+    Entero SECCION = 0;
+    double DIAM = 0.0;
+    double LADOMENOR = 0.0;
+    double FCK = 0.0;
+    double GC = 0.0;
+    double GS = 0.0;
+    double GR = 0.0;
+    double NCP = 0.0;
+    double INCR = 0.0;
+};
+
+DatosConfina LeeDatosConfina(LectorValores& lector)
+{
+    DatosConfina d;
+    d.SECCION = lector.LeeEntero();
+    d.DIAM = lector.LeeDoble();
+    d.LADOMENOR = lector.LeeDoble();
+    d.FCK = lector.LeeDoble();
+    d.GC = lector.LeeDoble();
+    d.GS = lector.LeeDoble();
+    d.GR = lector.LeeDoble();
+    d.NCP = lector.LeeDoble();
+    d.INCR = lector.LeeDoble();
+    return d;
+}
+
+bool CompruebaConfina(const DatosConfina& d)
+{
+    if (d.SECCION < kCircular || d.SECCION > kRectangularConfinada) return false;
+    // The smaller side is kept for every shape, and must be there for every shape.
+    if (d.DIAM == 0.0 || d.LADOMENOR == 0.0) return false;
+    if (d.SECCION == kRectangularConfinada && d.LADOMENOR > d.DIAM) return false;
+    if (!EnIntervalo(d.FCK, kFckMinimo, kFckMaximo)) return false;
+    return d.INCR >= kIncrMinimo;
+}
+
+void GuardaConfina(General& g, const DatosConfina& d)
+{
+    g.SECCION = static_cast<Entero>(std::abs(d.SECCION));
+    g.DIAM = std::fabs(d.DIAM);
+    g.LADOMENOR = std::fabs(d.LADOMENOR);
+    g.INCR = std::fabs(d.INCR);
+    g.NCP = std::fabs(d.NCP);
+    g.FCK = std::fabs(d.FCK);
+    g.GC = std::fabs(d.GC);
+    g.GS = std::fabs(d.GS);
+    g.GR = std::fabs(d.GR);
+}
+
+std::string TextoConfina(const General& g)
+{
+    std::string texto;
+    AnadeLinea(texto, g.SECCION);
+    for (double valor : {g.DIAM, g.LADOMENOR, g.FCK, g.GC, g.GS, g.GR, g.NCP, g.INCR})
+        AnadeLinea(texto, valor);
+    return texto;
+}
+
+}  // namespace
+
+// ---------------------------------------------------------------------------------------------
+
+std::string MensajeErrorFichero(int numero)
+{
+    if (numero == ErrorEjecucion::kMemoriaInsuficiente) return "Memoria insuficiente.";
+    if (numero == ErrorEjecucion::kDiscoLleno) return "Espacio en disco insuficiente.";
+    char cifras[16];
+    const auto escrito = std::to_chars(cifras, cifras + sizeof cifras, numero);
+    return "Error " + std::string(cifras, escrito.ptr) + ": " + ErrorEjecucion::DescripcionDe(numero);
+}
+
+void LeeFlexion(General& g, const std::string& fichero, Entero& tipo, const Aviso& aviso)
+{
+    // The state is not touched until the whole file has been read and found good.
+    DatosFlexion datos;
+    const bool leido = BajoTrampaDeErrores(g, aviso, [&] {
+        Canal canal(fichero, "rb");
+        LectorValores lector(canal.Fichero());
+        tipo = lector.LeeEntero();
+        datos = LeeDatosFlexion(lector, tipo);
+        canal.Cierra();
+    });
+    if (leido && CompruebaFlexion(datos, tipo)) {
+        GuardaFlexion(g, datos, tipo);
+        return;
+    }
+    // A refused file and a failed one both leave the start values of a new project.
+    g.F_ERROR = true;
+    ValoresFlexion(g);
+}
+
+void LeeConfina(General& g, const std::string& fichero, const Aviso& aviso)
+{
+    DatosConfina datos;
+    const bool leido = BajoTrampaDeErrores(g, aviso, [&] {
+        Canal canal(fichero, "rb");
+        LectorValores lector(canal.Fichero());
+        datos = LeeDatosConfina(lector);
+        canal.Cierra();
+    });
+    if (!leido) {
+        // A file that fails on the way gives the start values of a new confinement project,
+        // the Poisson coefficient and the steel strength included; a refused one below does
+        // not touch those two.
+        ValoresNuevoConfinamiento(g);
+        return;
+    }
+    if (!CompruebaConfina(datos)) {
+        g.F_ERROR = true;
+        ValoresConfinamiento(g);
+        return;
+    }
+    GuardaConfina(g, datos);
+}
+
+void GrabaFlexion(General& g, const std::string& fichero, Entero tipo, const Aviso& aviso)
+{
+    // No checks here: the state holds what a screen's copy has just checked, or what was read.
+    BajoTrampaDeErrores(g, aviso, [&] { EscribeFichero(fichero, TextoFlexion(g, tipo)); });
+}
+
+void GrabaConfina(General& g, const std::string& fichero, const Aviso& aviso)
+{
+    BajoTrampaDeErrores(g, aviso, [&] { EscribeFichero(fichero, TextoConfina(g)); });
+}
+
+}  // namespace texalon

@@ -1,0 +1,308 @@
+// The writers: the exact bytes of the worked examples, the number forms, and what a reader gives
+// back of what a writer wrote.
+#include "Auxiliares.h"
+
+#include "files/Ficheros.h"
+#include "state/General.h"
+
+#include <gtest/gtest.h>
+
+#include <clocale>
+#include <limits>
+#include <string>
+
+namespace texalon {
+namespace {
+
+using prueba::Avisos;
+using prueba::ConFinDeLinea;
+using prueba::DirectorioTemporal;
+using prueba::LeeBytes;
+
+General EstadoDeArranque()
+{
+    General g;
+    ValoresIniciales(g);
+    return g;
+}
+
+TEST(GrabaFlexion, RectangularDeArranqueSaleByteAByte)
+{
+    DirectorioTemporal dir;
+    General g = EstadoDeArranque();
+    Avisos avisos;
+    GrabaFlexion(g, dir.Fichero("flexion.vmf"), 1, avisos.Funcion());
+    EXPECT_FALSE(g.F_ERROR);
+    EXPECT_TRUE(avisos.Textos().empty());
+    EXPECT_EQ(LeeBytes(dir.Fichero("flexion.vmf")),
+              "1\r\n0.4\r\n0.6\r\n0.05\r\n10\r\n0\r\n25\r\n500\r\n1.5\r\n1.15\r\n1.4\r\n0.125\r\n0\r\n0\r\n");
+}
+
+TEST(GrabaFlexion, SeccionTDeArranqueSaleByteAByte)
+{
+    DirectorioTemporal dir;
+    General g = EstadoDeArranque();
+    Avisos avisos;
+    GrabaFlexion(g, dir.Fichero("flexion.vmf"), 2, avisos.Funcion());
+    EXPECT_FALSE(g.F_ERROR);
+    EXPECT_TRUE(avisos.Textos().empty());
+    EXPECT_EQ(
+        LeeBytes(dir.Fichero("flexion.vmf")),
+        "2\r\n0.4\r\n0.6\r\n0.2\r\n0.2\r\n0.05\r\n10\r\n0\r\n25\r\n500\r\n1.5\r\n1.15\r\n1.4\r\n0.125\r\n0\r\n0\r\n");
+}
+
+TEST(GrabaConfina, PilarRectangularSaleByteAByte)
+{
+    DirectorioTemporal dir;
+    General g = EstadoDeArranque();
+    g.SECCION = 3;
+    g.DIAM = 0.5;
+    g.LADOMENOR = 0.4;
+    g.NCP = 1200.0;
+    Avisos avisos;
+    GrabaConfina(g, dir.Fichero("confina.vmc"), avisos.Funcion());
+    EXPECT_FALSE(g.F_ERROR);
+    EXPECT_TRUE(avisos.Textos().empty());
+    EXPECT_EQ(LeeBytes(dir.Fichero("confina.vmc")), "3\r\n0.5\r\n0.4\r\n25\r\n1.5\r\n1.15\r\n1.4\r\n1200\r\n1\r\n");
+}
+
+TEST(GrabaFlexion, OrdenDeLineasDistintoDelDePantalla)
+{
+    DirectorioTemporal dir;
+    General g;
+    g.ANCHO = 1;
+    g.CANTO = 2;
+    g.ANCHOALMA = 3;
+    g.CANTOALA = 4;
+    g.RECUB = 5;
+    g.ASI = 6;
+    g.ASS = 7;
+    g.FCK = 8;
+    g.FYK = 9;
+    g.GC = 10;
+    g.GS = 11;
+    g.GR = 12;
+    g.ANCHOR = 13;
+    g.MCP = 14;
+    g.MD = 15;
+    g.EPS0 = 16;  // never written
+    GrabaFlexion(g, dir.Fichero("t.vmf"), 2, Aviso());
+    EXPECT_EQ(LeeBytes(dir.Fichero("t.vmf")),
+              ConFinDeLinea({"2", "1", "2", "3", "4", "5", "6", "7", "8", "9", "10", "11", "12", "13", "14", "15"}));
+    GrabaFlexion(g, dir.Fichero("r.vmf"), 1, Aviso());
+    EXPECT_EQ(LeeBytes(dir.Fichero("r.vmf")),
+              ConFinDeLinea({"1", "1", "2", "5", "6", "7", "8", "9", "10", "11", "12", "13", "14", "15"}));
+}
+
+TEST(GrabaConfina, OrdenDeLineasYSinFykNiNu)
+{
+    DirectorioTemporal dir;
+    General g;
+    g.SECCION = 2;
+    g.DIAM = 1;
+    g.LADOMENOR = 2;
+    g.FCK = 3;
+    g.GC = 4;
+    g.GS = 5;
+    g.GR = 6;
+    g.NCP = 7;
+    g.INCR = 8;
+    g.FYK = 99;
+    g.NU = 98;
+    GrabaConfina(g, dir.Fichero("c.vmc"), Aviso());
+    EXPECT_EQ(LeeBytes(dir.Fichero("c.vmc")), ConFinDeLinea({"2", "1", "2", "3", "4", "5", "6", "7", "8"}));
+}
+
+TEST(GrabaFlexion, TipoDistintoDeDosNoEscribeLasLineasDeT)
+{
+    DirectorioTemporal dir;
+    General g = EstadoDeArranque();
+    GrabaFlexion(g, dir.Fichero("f.vmf"), 3, Aviso());
+    EXPECT_EQ(LeeBytes(dir.Fichero("f.vmf")),
+              "3\r\n0.4\r\n0.6\r\n0.05\r\n10\r\n0\r\n25\r\n500\r\n1.5\r\n1.15\r\n1.4\r\n0.125\r\n0\r\n0\r\n");
+    EXPECT_FALSE(g.F_ERROR);
+}
+
+TEST(GrabaFlexion, NoCompruebaLosValores)
+{
+    DirectorioTemporal dir;
+    General g = EstadoDeArranque();
+    g.ASI = 0.0;
+    g.FCK = 99.0;
+    g.ANCHOR = 5.0;
+    GrabaFlexion(g, dir.Fichero("f.vmf"), 1, Aviso());
+    EXPECT_FALSE(g.F_ERROR);
+    EXPECT_EQ(LeeBytes(dir.Fichero("f.vmf")),
+              "1\r\n0.4\r\n0.6\r\n0.05\r\n0\r\n0\r\n99\r\n500\r\n1.5\r\n1.15\r\n1.4\r\n5\r\n0\r\n0\r\n");
+}
+
+TEST(GrabaFlexion, CeroNegativoSeEscribeComoCeroYNegativosConSigno)
+{
+    DirectorioTemporal dir;
+    General g = EstadoDeArranque();
+    g.ASS = -0.0;
+    g.MCP = -12.5;
+    g.MD = -0.0;
+    GrabaFlexion(g, dir.Fichero("f.vmf"), 1, Aviso());
+    EXPECT_EQ(LeeBytes(dir.Fichero("f.vmf")),
+              "1\r\n0.4\r\n0.6\r\n0.05\r\n10\r\n0\r\n25\r\n500\r\n1.5\r\n1.15\r\n1.4\r\n0.125\r\n-12.5\r\n0\r\n");
+}
+
+TEST(GrabaFlexion, NumerosEnDecimalLlanoSinExponente)
+{
+    DirectorioTemporal dir;
+    General g = EstadoDeArranque();
+    g.ANCHO = 1e-7;
+    g.CANTO = 123456.789;
+    g.RECUB = 1e20;
+    GrabaFlexion(g, dir.Fichero("f.vmf"), 1, Aviso());
+    EXPECT_EQ(LeeBytes(dir.Fichero("f.vmf")),
+              "1\r\n0.0000001\r\n123456.789\r\n100000000000000000000\r\n10\r\n0\r\n25\r\n"
+              "500\r\n1.5\r\n1.15\r\n1.4\r\n0.125\r\n0\r\n0\r\n");
+}
+
+TEST(GrabaFlexion, ConfiguracionRegionalEspanolaSigueEscribiendoPuntos)
+{
+    const char* anterior = std::setlocale(LC_ALL, nullptr);
+    const std::string guardada = anterior != nullptr ? anterior : "C";
+    if (std::setlocale(LC_ALL, "es_ES.UTF-8") == nullptr && std::setlocale(LC_ALL, "es_ES.utf8") == nullptr)
+        GTEST_SKIP() << "no hay configuración regional española en esta máquina";
+    DirectorioTemporal dir;
+    General g = EstadoDeArranque();
+    GrabaFlexion(g, dir.Fichero("f.vmf"), 1, Aviso());
+    const std::string escrito = LeeBytes(dir.Fichero("f.vmf"));
+    Entero tipo = 0;
+    g.ANCHO = 7.0;
+    LeeFlexion(g, dir.Fichero("f.vmf"), tipo, Aviso());
+    std::setlocale(LC_ALL, guardada.c_str());
+    EXPECT_EQ(escrito, "1\r\n0.4\r\n0.6\r\n0.05\r\n10\r\n0\r\n25\r\n500\r\n1.5\r\n1.15\r\n1.4\r\n0.125\r\n0\r\n0\r\n");
+    EXPECT_FALSE(g.F_ERROR);
+    EXPECT_EQ(g.ANCHO, 0.4);
+}
+
+TEST(GrabaConfina, ReemplazaEnteroUnFicheroMasLargo)
+{
+    DirectorioTemporal dir;
+    prueba::EscribeBytes(dir.Fichero("f.vmf"), std::string(5000, 'x'));
+    General g = EstadoDeArranque();
+    GrabaConfina(g, dir.Fichero("f.vmf"), Aviso());
+    EXPECT_EQ(LeeBytes(dir.Fichero("f.vmf")), "1\r\n0.5\r\n0.4\r\n25\r\n1.5\r\n1.15\r\n1.4\r\n0\r\n1\r\n");
+}
+
+// --- Ida y vuelta ------------------------------------------------------------------------------
+
+TEST(GrabaFlexion, IdaYVueltaDevuelveCadaValorExactoEnSeccionT)
+{
+    DirectorioTemporal dir;
+    General escrito;
+    ValoresIniciales(escrito);
+    escrito.ANCHO = 0.4;
+    escrito.CANTO = 1e5 + 0.1;
+    escrito.ANCHOALMA = 1.0 / 3.0;
+    escrito.CANTOALA = 0.1 + 0.2;
+    escrito.RECUB = 2.0 / 3.0 * 1e-3;
+    escrito.ASI = 1e300;
+    escrito.ASS = std::numeric_limits<double>::denorm_min();
+    escrito.FCK = 15.000000000000002;
+    escrito.FYK = 599.9999999999999;
+    escrito.GC = 0.1;
+    escrito.GS = 1.0 / 7.0;
+    escrito.GR = std::numeric_limits<double>::max();
+    escrito.ANCHOR = 0.30000000000000004 / 3.0;
+    escrito.MCP = 9007199254740993.0;
+    escrito.MD = 1e-7;
+    GrabaFlexion(escrito, dir.Fichero("f.vmf"), 2, Aviso());
+    ASSERT_FALSE(escrito.F_ERROR);
+
+    General leido = prueba::EstadoAjeno();
+    leido.EPS0 = escrito.EPS0;
+    Entero tipo = 0;
+    Avisos avisos;
+    LeeFlexion(leido, dir.Fichero("f.vmf"), tipo, avisos.Funcion());
+    EXPECT_FALSE(leido.F_ERROR);
+    EXPECT_TRUE(avisos.Textos().empty());
+    EXPECT_EQ(tipo, 2);
+    prueba::EsperaMismosValoresFlexion(escrito, leido);
+}
+
+TEST(GrabaFlexion, IdaYVueltaDevuelveCadaValorExactoEnRectangular)
+{
+    DirectorioTemporal dir;
+    General escrito;
+    ValoresIniciales(escrito);
+    escrito.ANCHO = 0.1 + 0.2;
+    escrito.CANTO = 123456.789;
+    escrito.RECUB = 1.0 / 3.0;
+    escrito.ASI = 1e-7;
+    escrito.ASS = 1e300;
+    escrito.FCK = 49.99999999999999;
+    escrito.FYK = 300.00000000000006;
+    escrito.GC = 0.1;
+    escrito.GS = 1.0 / 7.0;
+    escrito.GR = std::numeric_limits<double>::max();
+    escrito.ANCHOR = 0.1 + 0.2;
+    escrito.MCP = std::numeric_limits<double>::min();
+    escrito.MD = 9007199254740993.0;
+    GrabaFlexion(escrito, dir.Fichero("f.vmf"), 1, Aviso());
+
+    General leido = prueba::EstadoAjeno();
+    const General antes = leido;
+    Entero tipo = 0;
+    LeeFlexion(leido, dir.Fichero("f.vmf"), tipo, Aviso());
+    EXPECT_FALSE(leido.F_ERROR);
+    EXPECT_EQ(tipo, 1);
+    escrito.ANCHOALMA = antes.ANCHOALMA;
+    escrito.CANTOALA = antes.CANTOALA;
+    escrito.EPS0 = antes.EPS0;
+    prueba::EsperaMismosValoresFlexion(escrito, leido);
+}
+
+TEST(GrabaConfina, IdaYVueltaDevuelveCadaValorExacto)
+{
+    DirectorioTemporal dir;
+    General escrito;
+    ValoresIniciales(escrito);
+    escrito.SECCION = 3;
+    escrito.DIAM = 1.0 / 3.0;
+    escrito.LADOMENOR = 0.1 + 0.2;
+    escrito.FCK = 15.000000000000002;
+    escrito.GC = 1e-7;
+    escrito.GS = 123456.789;
+    escrito.GR = 1e300;
+    escrito.NCP = std::numeric_limits<double>::min();
+    escrito.INCR = 1.0000000000000002;
+    GrabaConfina(escrito, dir.Fichero("c.vmc"), Aviso());
+
+    General leido = prueba::EstadoAjeno();
+    Avisos avisos;
+    LeeConfina(leido, dir.Fichero("c.vmc"), avisos.Funcion());
+    EXPECT_FALSE(leido.F_ERROR);
+    EXPECT_TRUE(avisos.Textos().empty());
+    // Neither NU nor FYK are in the file: they stay as the reader found them.
+    escrito.NU = leido.NU;
+    escrito.FYK = leido.FYK;
+    EXPECT_EQ(leido.NU, 0.3);
+    EXPECT_EQ(leido.FYK, 410.0);
+    prueba::EsperaMismosValoresConfinamiento(escrito, leido);
+}
+
+TEST(GrabaFlexion, EstadoDeArranqueVuelveIgualPorAmbosTipos)
+{
+    DirectorioTemporal dir;
+    for (Entero tipo : {Entero{1}, Entero{2}}) {
+        General escrito = EstadoDeArranque();
+        GrabaFlexion(escrito, dir.Fichero("f.vmf"), tipo, Aviso());
+        General leido = prueba::EstadoAjeno();
+        leido.ANCHOALMA = 0.2;
+        leido.CANTOALA = 0.2;
+        leido.EPS0 = 0.0;
+        Entero leido_tipo = 0;
+        LeeFlexion(leido, dir.Fichero("f.vmf"), leido_tipo, Aviso());
+        EXPECT_FALSE(leido.F_ERROR);
+        EXPECT_EQ(leido_tipo, tipo);
+        prueba::EsperaMismosValoresFlexion(escrito, leido);
+    }
+}
+
+}  // namespace
+}  // namespace texalon
