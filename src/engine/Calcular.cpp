@@ -1,5 +1,6 @@
 #include "engine/Calcular.h"
 
+#include "engine/Aritmetica.h"
 #include "engine/Calculos.h"
 #include "state/Catalogo.h"
 
@@ -23,6 +24,9 @@ double Maximo(const General& g, const Arreglo<double>& valores)
     return maximo;
 }
 
+ResultadoCalculo Flexion(General& g, Entero seccion, const LeeCampos& leeCampos);
+ResultadoCalculo Confinamiento(General& g, Entero forma, const LeeCampos& leeCampos);
+
 }  // namespace
 
 std::string_view TextoVeredicto(Veredicto veredicto)
@@ -36,6 +40,18 @@ std::string_view TextoVeredicto(Veredicto veredicto)
 }
 
 ResultadoCalculo CalculaFlexion(General& g, Entero seccion, const LeeCampos& leeCampos)
+{
+    return ConAritmeticaVigilada([&] { return Flexion(g, seccion, leeCampos); });
+}
+
+ResultadoCalculo CalculaConfinamiento(General& g, Entero forma, const LeeCampos& leeCampos)
+{
+    return ConAritmeticaVigilada([&] { return Confinamiento(g, forma, leeCampos); });
+}
+
+namespace {
+
+ResultadoCalculo Flexion(General& g, Entero seccion, const LeeCampos& leeCampos)
 {
     Asigna(g, {&g.MU, &g.FN, &g.MRB, &g.XRB, &g.MLIMSR, &g.MLIMCR, &g.XLIM, &g.EPSC, &g.EPSSI, &g.EPSSS, &g.EPSR});
     g.PIVOTE.Redimensiona(g.NTIPOS, g.MAXCAPAS);
@@ -67,7 +83,7 @@ ResultadoCalculo CalculaFlexion(General& g, Entero seccion, const LeeCampos& lee
     return resultado;
 }
 
-ResultadoCalculo CalculaConfinamiento(General& g, Entero forma, const LeeCampos& leeCampos)
+ResultadoCalculo Confinamiento(General& g, Entero forma, const LeeCampos& leeCampos)
 {
     Asigna(g, {&g.WR, &g.WWD, &g.EPSRC, &g.SIGMAR, &g.TENSCONF, &g.RESU});
     g.WC.Redimensiona(g.NTIPOS);
@@ -88,5 +104,7 @@ ResultadoCalculo CalculaConfinamiento(General& g, Entero forma, const LeeCampos&
     g.F_CALCULADO = true;
     return resultado;
 }
+
+}  // namespace
 
 }  // namespace texalon

@@ -1,5 +1,6 @@
 #include "engine/Calculos.h"
 
+#include "engine/Aritmetica.h"
 #include "engine/Seccion.h"
 
 #include "state/Catalogo.h"
@@ -301,7 +302,9 @@ void CalculoConfina(General& g, Entero forma, double DIAM, double LADOMENOR, dou
     }
 }
 
-void LongitudAnclaje(General& g)
+namespace {
+
+void LongitudesDeAnclaje(General& g)
 {
     g.LANC.Redimensiona(g.NTIPOS, g.MAXCAPAS);
     // Bond strength of the concrete, N/mm²: no safety coefficient enters.
@@ -312,6 +315,16 @@ void LongitudAnclaje(General& g)
         for (int n = 1; n <= g.MAXCAPAS; ++n)
             g.LANC(t, n) = (((static_cast<double>(n) * g.ESPESOR) * 0.001) * g.E * g.EPSD(n)) / adherencia;
     }
+}
+
+}  // namespace
+
+void LongitudAnclaje(General& g)
+{
+    ConAritmeticaVigilada([&g] {
+        LongitudesDeAnclaje(g);
+        return true;
+    });
 }
 
 }  // namespace texalon

@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <functional>
 
 namespace texalon {
 namespace {
@@ -219,6 +220,50 @@ TEST(CalculaConfinamiento, LaFormaDelCalculoEsLaDeLaLista)
     // SECCION gives the initial strain; the list's shape gives the calculation.
     CalculaConfinamiento(g, 3, nullptr);
     EXPECT_EQ(Formato(g.RESU(1, 1), "0.00000", '.'), "1.00581");
+}
+
+}  // namespace
+}  // namespace texalon
+
+namespace texalon {
+namespace {
+
+int ErrorDe(const std::function<void()>& calculo)
+{
+    try {
+        calculo();
+    } catch (const ErrorEjecucion& error) {
+        return error.Numero();
+    }
+    return 0;
+}
+
+TEST(AritmeticaVigilada, CoeficienteCeroEsDivisionPorCero)
+{
+    General g = Proyecto();
+    g.GC = 0.0;  // a project file may hold it: the coefficients are not checked at reading
+    EXPECT_EQ(ErrorDe([&g] { CalculaFlexion(g, kSeccionRectangular, nullptr); }), 11);
+    General c = Proyecto();
+    c.GR = 0.0;
+    EXPECT_EQ(ErrorDe([&c] { CalculaConfinamiento(c, 1, nullptr); }), 11);
+    EXPECT_EQ(ErrorDe([&c] { LongitudAnclaje(c); }), 11);
+}
+
+TEST(AritmeticaVigilada, DesbordamientoEsElErrorSeis)
+{
+    General g = Proyecto();
+    g.ANCHO = 1e300;
+    g.CANTO = 1e300;
+    g.ANCHOR = 1e300;
+    EXPECT_EQ(ErrorDe([&g] { CalculaFlexion(g, kSeccionRectangular, nullptr); }), 6);
+}
+
+TEST(AritmeticaVigilada, UnCalculoSanoNoDaError)
+{
+    General g = Proyecto();
+    EXPECT_EQ(ErrorDe([&g] { CalculaFlexion(g, kSeccionT, nullptr); }), 0);
+    EXPECT_EQ(ErrorDe([&g] { CalculaConfinamiento(g, 3, nullptr); }), 0);
+    EXPECT_EQ(ErrorDe([&g] { LongitudAnclaje(g); }), 0);
 }
 
 }  // namespace
