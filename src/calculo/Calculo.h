@@ -1,0 +1,29 @@
+// The batch calculation command, texalon-calculo: it reads project files, calculates each as
+// the Calculate button of its screen does and prints the results. The whole run lives here,
+// apart from the process around it, so that the tests call it just as main does.
+#pragma once
+
+#include <iosfwd>
+#include <string>
+#include <vector>
+
+namespace texalon::calculo {
+
+// Exit status of the command.
+constexpr int kSalidaCorrecta = 0;    // every file calculated, or the help shown
+constexpr int kSalidaConFallos = 1;   // some file could not be read or calculated
+constexpr int kSalidaErrorDeUso = 2;  // no file, or an option the command does not know
+
+// The usage text of --help.
+std::string TextoAyuda();
+
+// Runs the command on its arguments, the program name left out, and returns the exit status.
+// Results go to `salida` and messages to `errores`; `separador` is the decimal separator of
+// the text results (the JSON numbers always carry the period). Writes no file.
+int Ejecuta(const std::vector<std::string>& argumentos, char separador, std::ostream& salida, std::ostream& errores);
+
+// The decimal separator of the results from the machine's one: ',' for a comma and '.' for
+// anything else, a missing one included.
+char SeparadorDecimal(const char* separadorDelSistema);
+
+}  // namespace texalon::calculo

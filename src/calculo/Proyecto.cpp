@@ -1,0 +1,112 @@
+#include "calculo/Proyecto.h"
+
+#include "calculo/Texto.h"
+
+#include "engine/Calculos.h"
+#include "files/Ficheros.h"
+#include "state/ErrorEjecucion.h"
+
+#include <algorithm>
+#include <new>
+
+namespace texalon::calculo {
+
+namespace {
+
+// Only the ASCII letters change: an extension is compared with "VMF" and "VMC", whatever the
+// machine's character settings.
+std::string EnMayusculas(std::string_view texto)
+{
+    std::string mayusculas(texto);
+    std::transform(mayusculas.begin(), mayusculas.end(), mayusculas.begin(),
+                   [](char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c; });
+    return mayusculas;
+}
+
+// The screens have no trap around Calculate, so the program would end with this message; the
+// batch command tells it and goes on with the next file.
+std::string MensajeErrorCalculo(int numero)
+{
+    return "Se ha producido el error '" + TextoEntero(numero) +
+           "' en tiempo de ejecución: " + ErrorEjecucion::DescripcionDe(numero);
+}
+
+// Reads the file as Open does; a refused or failed file leaves its messages and the one of Open.
+bool Lee(CalculoFichero& calculo)
+{
+    const Aviso aviso = [&calculo](const std::string& texto) { calculo.errores.push_back(texto); };
+    calculo.g.F_ERROR = false;
+    if (calculo.clase == ClaseFichero::Flexion)
+        LeeFlexion(calculo.g, calculo.fichero, calculo.seccion, aviso);
+    else
+        LeeConfina(calculo.g, calculo.fichero, aviso);
+    if (calculo.g.F_ERROR) calculo.errores.emplace_back(kMensajeDatosIncorrectos);
+    return !calculo.g.F_ERROR;
+}
+
+// The screen reads no fields here: the state already holds the file's values.
+ResultadoCalculo CalculaSegunClase(CalculoFichero& calculo)
+{
+    General& g = calculo.g;
+    if (calculo.clase == ClaseFichero::Flexion) return CalculaFlexion(g, calculo.seccion, nullptr);
+    return CalculaConfinamiento(g, g.SECCION, nullptr);
+}
+
+void Calcula(CalculoFichero& calculo)
+{
+    const ResultadoCalculo resultado = CalculaSegunClase(calculo);
+    if (resultado.predeformacionExcesiva) {
+        calculo.errores.emplace_back(kMensajePredeformacion);
+        return;
+    }
+    calculo.veredicto = resultado.veredicto;
+    if (calculo.clase == ClaseFichero::Flexion) LongitudAnclaje(calculo.g);
+}
+
+void CalculaBajoTrampa(CalculoFichero& calculo)
+{
+    try {
+        Calcula(calculo);
+    } catch (const ErrorEjecucion& error) {
+        calculo.errores.push_back(MensajeErrorCalculo(error.Numero()));
+    } catch (const std::bad_alloc&) {
+        calculo.errores.push_back(MensajeErrorCalculo(ErrorEjecucion::kMemoriaInsuficiente));
+    }
+}
+
+}  // namespace
+
+ClaseFichero ClaseDe(std::string_view fichero)
+{
+    const std::string_view nombre = Recorta(fichero);
+    if (nombre.size() < 3) return ClaseFichero::Ninguna;
+    const std::string extension = EnMayusculas(nombre.substr(nombre.size() - 3));
+    if (extension == "VMF") return ClaseFichero::Flexion;
+    if (extension == "VMC") return ClaseFichero::Confinamiento;
+    return ClaseFichero::Ninguna;
+}
+
+CalculoFichero CalculaFichero(const std::string& fichero)
+{
+    CalculoFichero calculo;
+    calculo.fichero = fichero;
+    calculo.clase = ClaseDe(fichero);
+    if (calculo.clase == ClaseFichero::Ninguna) {
+        calculo.errores.emplace_back(kMensajeNoEsProyecto);
+        return calculo;
+    }
+    ValoresIniciales(calculo.g);
+    if (Lee(calculo)) CalculaBajoTrampa(calculo);
+    return calculo;
+}
+
+std::optional<std::string_view> NombreTipo(const CalculoFichero& calculo)
+{
+    if (calculo.clase == ClaseFichero::Confinamiento) return "confinamiento";
+    if (calculo.clase != ClaseFichero::Flexion) return std::nullopt;
+    if (calculo.seccion == kSeccionRectangular) return "rectangular";
+    if (calculo.seccion == kSeccionT) return "T";
+    return std::nullopt;
+}
+
+}  // namespace texalon::calculo

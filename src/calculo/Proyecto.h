@@ -1,0 +1,50 @@
+// One project file of the batch command: which kind it is, read into a state of its own and
+// calculated as the Calculate button of its screen does.
+#pragma once
+
+#include "engine/Calcular.h"
+#include "state/General.h"
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace texalon::calculo {
+
+enum class ClaseFichero {
+    Ninguna,        // not a project file
+    Flexion,        // VMF
+    Confinamiento,  // VMC
+};
+
+// The extension decides, as in Open: the last three characters of the trimmed name, in any
+// letter case.
+ClaseFichero ClaseDe(std::string_view fichero);
+
+// The messages of the batch command that the screens do not have.
+inline constexpr std::string_view kMensajeNoEsProyecto = "no es un fichero de proyecto TEXALON (.vmf o .vmc).";
+// What Open says after a file it could not take.
+inline constexpr std::string_view kMensajeDatosIncorrectos = "Los datos almacenados no son correctos.";
+
+// A file read and calculated; `g` holds its whole state afterwards.
+struct CalculoFichero {
+    std::string fichero;  // the name as given
+    ClaseFichero clase = ClaseFichero::Ninguna;
+    Entero seccion = 0;  // section kind of line 1 of a flexure file, as read
+    Veredicto veredicto = Veredicto::Oculto;
+    // The messages of a failure, in the order the program shows them; none on success.
+    std::vector<std::string> errores;
+    General g;
+
+    bool Correcto() const { return errores.empty(); }
+};
+
+// Reads the file and, if it is good, calculates it: the flexure files also get their anchorage
+// lengths, which their screens show on request.
+CalculoFichero CalculaFichero(const std::string& fichero);
+
+// "rectangular", "T" or "confinamiento"; none while the file has not told its kind.
+std::optional<std::string_view> NombreTipo(const CalculoFichero& calculo);
+
+}  // namespace texalon::calculo

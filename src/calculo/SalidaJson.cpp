@@ -1,0 +1,254 @@
+#include "calculo/SalidaJson.h"
+
+#include "calculo/Texto.h"
+
+#include "engine/Calculos.h"
+
+#include <charconv>
+#include <cmath>
+#include <cstddef>
+#include <initializer_list>
+#include <utility>
+#include <vector>
+
+namespace texalon::calculo {
+
+namespace {
+
+// Enough for the value of a double to read back the same.
+constexpr int kCifrasSignificativas = 17;
+
+// The length of the well-formed UTF-8 character at the start of the text, 0 if there is none:
+// overlong forms, surrogates and code points above U+10FFFF are not well formed.
+std::size_t CaracterUtf8(std::string_view texto)
+{
+    const auto byte = [texto](std::size_t i) { return static_cast<unsigned char>(texto[i]); };
+    const unsigned char primero = byte(0);
+    if (primero < 0x80) return 1;
+    std::size_t largo = 0;
+    unsigned char minimo = 0x80;
+    unsigned char maximo = 0xBF;
+    if (primero >= 0xC2 && primero <= 0xDF) {
+        largo = 2;
+    } else if (primero >= 0xE0 && primero <= 0xEF) {
+        largo = 3;
+        if (primero == 0xE0) minimo = 0xA0;
+        if (primero == 0xED) maximo = 0x9F;
+    } else if (primero >= 0xF0 && primero <= 0xF4) {
+        largo = 4;
+        if (primero == 0xF0) minimo = 0x90;
+        if (primero == 0xF4) maximo = 0x8F;
+    } else {
+        return 0;
+    }
+    if (texto.size() < largo || byte(1) < minimo || byte(1) > maximo) return 0;
+    for (std::size_t i = 2; i < largo; ++i)
+        if ((byte(i) & 0xC0U) != 0x80U) return 0;
+    return largo;
+}
+
+// The escape of a character below U+0020, which JSON does not allow bare in a string.
+std::string EscapeControl(char c)
+{
+    switch (c) {
+        case '\b':
+            return "\\b";
+        case '\f':
+            return "\\f";
+        case '\n':
+            return "\\n";
+        case '\r':
+            return "\\r";
+        case '\t':
+            return "\\t";
+        default:
+            break;
+    }
+    constexpr std::string_view kHex = "0123456789abcdef";
+    const auto codigo = static_cast<unsigned char>(c);
+    return std::string("\\u00") + kHex[codigo >> 4U] + kHex[codigo & 0x0FU];
+}
+
+std::string Numero(double valor)
+{
+    if (!std::isfinite(valor)) return "null";
+    char cifras[32];
+    const auto escrito =
+        std::to_chars(cifras, cifras + sizeof cifras, valor, std::chars_format::general, kCifrasSignificativas);
+    return std::string(cifras, escrito.ptr);
+}
+
+std::string Valor(double valor)
+{
+    return Numero(valor);
+}
+std::string Valor(const std::string& valor)
+{
+    return CadenaJson(valor);
+}
+
+// A result array by type, each a list by number of layers.
+template <typename T>
+std::string Tabla(const Arreglo<T>& arreglo)
+{
+    std::string texto = "[";
+    for (int t = 1; t <= arreglo.Filas(); ++t) {
+        texto += t > 1 ? ",[" : "[";
+        for (int n = 1; n <= arreglo.Columnas(); ++n)
+            texto += (n > 1 ? "," : "") + Valor(arreglo(t, n));
+        texto += ']';
+    }
+    return texto + ']';
+}
+
+// An array with one value for each type.
+std::string Lista(const Arreglo<double>& arreglo)
+{
+    std::string texto = "[";
+    for (int t = 1; t <= arreglo.Filas(); ++t)
+        texto += (t > 1 ? "," : "") + Valor(arreglo(t));
+    return texto + ']';
+}
+
+using ListaEscalares = std::initializer_list<std::pair<std::string_view, double>>;
+using ListaTablas = std::initializer_list<std::pair<std::string_view, const Arreglo<double>*>>;
+
+// The members of one object, written in the order they are added.
+class Objeto {
+public:
+    void Miembro(std::string_view nombre, const std::string& valor)
+    {
+        texto_ += (texto_.size() > 1 ? "," : "") + CadenaJson(nombre) + ':' + valor;
+    }
+    void Texto(std::string_view nombre, std::string_view valor) { Miembro(nombre, CadenaJson(valor)); }
+    void Numeros(ListaEscalares escalares)
+    {
+        for (const auto& [nombre, valor] : escalares)
+            Miembro(nombre, Numero(valor));
+    }
+    void Tablas(ListaTablas tablas)
+    {
+        for (const auto& [nombre, arreglo] : tablas)
+            Miembro(nombre, Tabla(*arreglo));
+    }
+    std::string Cierra() const { return texto_ + '}'; }
+
+private:
+    std::string texto_ = "{";
+};
+
+std::string Unidos(const std::vector<std::string>& mensajes)
+{
+    std::string texto;
+    for (const std::string& mensaje : mensajes)
+        texto += (texto.empty() ? "" : "\n") + mensaje;
+    return texto;
+}
+
+void DatosFlexion(Objeto& objeto, const General& g, bool esT)
+{
+    objeto.Numeros({{"ANCHO", g.ANCHO}, {"CANTO", g.CANTO}});
+    // A rectangular file has no web and no flange.
+    if (esT) objeto.Numeros({{"ANCHOALMA", g.ANCHOALMA}, {"CANTOALA", g.CANTOALA}});
+    objeto.Numeros({{"RECUB", g.RECUB},
+                    {"ASI", g.ASI},
+                    {"ASS", g.ASS},
+                    {"FCK", g.FCK},
+                    {"FYK", g.FYK},
+                    {"GC", g.GC},
+                    {"GS", g.GS},
+                    {"GR", g.GR},
+                    {"ANCHOR", g.ANCHOR},
+                    {"MCP", g.MCP},
+                    {"MD", g.MD}});
+}
+
+void ResultadosFlexion(Objeto& objeto, const General& g)
+{
+    objeto.Numeros({{"EPS0", g.EPS0}, {"MUSR", g.MUSR}, {"MUMAX", g.MUMAX}});
+    objeto.Tablas({{"MU", &g.MU}, {"FN", &g.FN}});
+    objeto.Miembro("PIVOTE", Tabla(g.PIVOTE));
+    objeto.Tablas({{"MRB", &g.MRB},
+                   {"XRB", &g.XRB},
+                   {"MLIMSR", &g.MLIMSR},
+                   {"MLIMCR", &g.MLIMCR},
+                   {"XLIM", &g.XLIM},
+                   {"EPSC", &g.EPSC},
+                   {"EPSSI", &g.EPSSI},
+                   {"EPSSS", &g.EPSSS},
+                   {"EPSR", &g.EPSR},
+                   {"LANC", &g.LANC}});
+}
+
+// NU is no part of the file, but the calculation reads it from the state.
+void DatosConfinamiento(Objeto& objeto, const General& g)
+{
+    objeto.Miembro("SECCION", TextoEntero(g.SECCION));
+    objeto.Numeros({{"DIAM", g.DIAM},
+                    {"LADOMENOR", g.LADOMENOR},
+                    {"FCK", g.FCK},
+                    {"GC", g.GC},
+                    {"GS", g.GS},
+                    {"GR", g.GR},
+                    {"NCP", g.NCP},
+                    {"INCR", g.INCR},
+                    {"NU", g.NU}});
+}
+
+void ResultadosConfinamiento(Objeto& objeto, const General& g)
+{
+    objeto.Numeros({{"EPS0", g.EPS0}, {"ALFAN", g.ALFAN}, {"ALFAS", g.ALFAS}, {"RESUMAX", g.RESUMAX}});
+    objeto.Miembro("WC", Lista(g.WC));
+    objeto.Tablas({{"WR", &g.WR},
+                   {"WWD", &g.WWD},
+                   {"EPSRC", &g.EPSRC},
+                   {"SIGMAR", &g.SIGMAR},
+                   {"TENSCONF", &g.TENSCONF},
+                   {"RESU", &g.RESU}});
+}
+
+}  // namespace
+
+std::string CadenaJson(std::string_view texto)
+{
+    std::string cadena = "\"";
+    for (std::size_t i = 0; i < texto.size();) {
+        const char c = texto[i];
+        const std::size_t largo = CaracterUtf8(texto.substr(i));
+        if (largo == 0) {
+            cadena += "\\ufffd";
+            ++i;
+            continue;
+        }
+        if (c == '"' || c == '\\')
+            cadena += std::string{'\\', c};
+        else if (static_cast<unsigned char>(c) < 0x20)
+            cadena += EscapeControl(c);
+        else
+            cadena.append(texto.substr(i, largo));
+        i += largo;
+    }
+    return cadena + '"';
+}
+
+std::string ObjetoJson(const CalculoFichero& calculo)
+{
+    Objeto objeto;
+    objeto.Texto("fichero", calculo.fichero);
+    if (const auto tipo = NombreTipo(calculo)) objeto.Texto("tipo", *tipo);
+    if (!calculo.Correcto()) {
+        objeto.Texto("error", Unidos(calculo.errores));
+        return objeto.Cierra();
+    }
+    if (calculo.clase == ClaseFichero::Flexion) {
+        DatosFlexion(objeto, calculo.g, calculo.seccion == kSeccionT);
+        ResultadosFlexion(objeto, calculo.g);
+    } else {
+        DatosConfinamiento(objeto, calculo.g);
+        ResultadosConfinamiento(objeto, calculo.g);
+    }
+    objeto.Texto("veredicto", TextoVeredicto(calculo.veredicto));
+    return objeto.Cierra();
+}
+
+}  // namespace texalon::calculo

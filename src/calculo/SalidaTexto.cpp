@@ -1,0 +1,122 @@
+#include "calculo/SalidaTexto.h"
+
+#include "calculo/Texto.h"
+
+#include "engine/Calculos.h"
+#include "state/Formato.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <functional>
+#include <string_view>
+#include <vector>
+
+namespace texalon::calculo {
+
+namespace {
+
+// Widths of the grid's columns in characters: the layer column is as wide as its heading, a
+// type column holds a type name of nine letters and the gap that parts it from its neighbour.
+constexpr std::size_t kAnchoCapas = 8;
+constexpr std::size_t kAnchoTipo = 13;
+
+// The rows of CO_SECCION, for SECCION 1, 2 and 3.
+constexpr std::string_view kFormas[] = {"circular", "cuadrada", "rectangular"};
+
+std::string Alineado(std::string_view texto, std::size_t ancho)
+{
+    return FormatoTexto(texto, std::string(ancho, '@'));
+}
+
+// The text of the grid cell (type, layers).
+using Celda = std::function<std::string(int tipo, int capas)>;
+
+// The result grid as the screen lays it out: row 0 the heading of the layer column and the
+// type names, row n the number n and the values for n layers.
+std::string Tabla(const General& g, std::string_view titulo, const Celda& celda)
+{
+    std::string texto = std::string(titulo) + '\n' + Alineado("Nº capas", kAnchoCapas);
+    for (int t = 1; t <= g.NTIPOS; ++t)
+        texto += Alineado(g.TIPOS(t), kAnchoTipo);
+    texto += '\n';
+    for (int n = 1; n <= g.MAXCAPAS; ++n) {
+        texto += Alineado(TextoEntero(n), kAnchoCapas);
+        for (int t = 1; t <= g.NTIPOS; ++t)
+            texto += Alineado(celda(t, n), kAnchoTipo);
+        texto += '\n';
+    }
+    return texto;
+}
+
+// The label LB_INFO on a line of its own; a hidden label gives no line.
+std::string LineaVeredicto(Veredicto veredicto)
+{
+    const std::string texto(Recorta(TextoVeredicto(veredicto)));
+    return texto.empty() ? texto : texto + '\n';
+}
+
+struct Dato {
+    std::string_view nombre;  // the state field, in ASCII
+    std::string valor;
+    std::string_view unidad;
+};
+
+// "NOMBRE = valor unidad", one a line, the signs '=' one under the other.
+std::string Datos(const std::vector<Dato>& datos)
+{
+    std::size_t ancho = 0;
+    for (const Dato& dato : datos)
+        ancho = std::max(ancho, dato.nombre.size());
+    std::string texto;
+    for (const Dato& dato : datos) {
+        texto += std::string(dato.nombre) + std::string(ancho - dato.nombre.size(), ' ') + " = " + dato.valor;
+        if (!dato.unidad.empty()) texto += ' ' + std::string(dato.unidad);
+        texto += '\n';
+    }
+    return texto;
+}
+
+std::string DescripcionSeccion(const CalculoFichero& calculo)
+{
+    if (calculo.clase == ClaseFichero::Flexion)
+        return calculo.seccion == kSeccionT ? "Flexión, sección en T" : "Flexión, sección rectangular";
+    const int forma = calculo.g.SECCION;
+    if (forma < 1 || forma > 3) return "Confinamiento";
+    return "Confinamiento, sección " + std::string(kFormas[forma - 1]);
+}
+
+// The screen shows the strains in thousandths.
+std::string Milesimas(double deformacion, char separador)
+{
+    return Formato(deformacion * 1000.0, "0.00", separador);
+}
+
+std::string ResultadosFlexion(const CalculoFichero& calculo, char separador)
+{
+    const General& g = calculo.g;
+    const Celda momento = [&g, separador](int t, int n) {
+        return g.MU(t, n) == kSinMejora ? std::string("---") : Formato(g.MU(t, n), "0.0", separador);
+    };
+    return Tabla(g, "Momento último de la sección reforzada (mkN)", momento) + LineaVeredicto(calculo.veredicto) +
+           Datos({{"MUSR", Formato(g.MUSR, "0.0", separador), "mkN"}, {"EPS0", Milesimas(g.EPS0, separador), "‰"}});
+}
+
+std::string ResultadosConfinamiento(const CalculoFichero& calculo, char separador)
+{
+    const General& g = calculo.g;
+    const Celda incremento = [&g, separador](int t, int n) { return Formato(g.RESU(t, n), "0.00", separador); };
+    return Tabla(g, "Incremento de resistencia debido al confinamiento", incremento) +
+           LineaVeredicto(calculo.veredicto) +
+           Datos({{"EPS0", Milesimas(g.EPS0, separador), "‰"}, {"ALFAN", Formato(g.ALFAN, "0.000", separador), ""}});
+}
+
+}  // namespace
+
+std::string TextoResultados(const CalculoFichero& calculo, char separador)
+{
+    const std::string cabecera = calculo.fichero + ": " + DescripcionSeccion(calculo) + '\n';
+    if (calculo.clase == ClaseFichero::Flexion) return cabecera + ResultadosFlexion(calculo, separador);
+    return cabecera + ResultadosConfinamiento(calculo, separador);
+}
+
+}  // namespace texalon::calculo

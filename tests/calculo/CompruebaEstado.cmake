@@ -1,0 +1,21 @@
+# Runs the texalon-calculo command as a user does and checks its exit status, and optionally
+# that its output holds a text.
+#   -DPROGRAMA=<path of texalon-calculo>  -DESTADO=<expected status>
+#   -DFICHERO=<one argument, may be empty>  -DTEXTO=<text expected in the output, may be empty>
+if(FICHERO)
+  set(argumentos "${FICHERO}")
+endif()
+execute_process(
+  COMMAND "${PROGRAMA}" ${argumentos}
+  RESULT_VARIABLE estado
+  OUTPUT_VARIABLE salida
+  ERROR_VARIABLE errores)
+if(NOT estado STREQUAL "${ESTADO}")
+  message(FATAL_ERROR "texalon-calculo terminó con ${estado} y se esperaba ${ESTADO}\n${salida}\n${errores}")
+endif()
+if(TEXTO)
+  string(FIND "${salida}" "${TEXTO}" posicion)
+  if(posicion EQUAL -1)
+    message(FATAL_ERROR "La salida no contiene «${TEXTO}»:\n${salida}")
+  endif()
+endif()

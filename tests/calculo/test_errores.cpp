@@ -1,0 +1,168 @@
+// Files that cannot be calculated: what the command says, and that it goes on with the next.
+#include "Prueba.h"
+
+#include "engine/Calcular.h"
+
+#include <gtest/gtest.h>
+
+namespace texalon::prueba {
+namespace {
+
+constexpr std::string_view kDatosIncorrectos = "Los datos almacenados no son correctos.";
+constexpr std::string_view kNoEncontrado = "Error 53: No se ha encontrado el archivo";
+
+// The default rectangular file with one line changed (numbered from 1).
+std::string ConLinea(std::size_t numero, std::string_view valor)
+{
+    std::vector<std::string> lineas = Lineas(std::string(kFlexionRectangular));
+    std::string texto;
+    for (std::size_t i = 0; i < lineas.size(); ++i) {
+        std::string linea = i + 1 == numero ? std::string(valor) : lineas[i].substr(0, lineas[i].size() - 1);
+        texto += linea + "\r\n";
+    }
+    return texto;
+}
+
+TEST(ErroresCalculo, UnFicheroRechazadoSeDiceYTerminaConUno)
+{
+    DirectorioTemporal directorio;
+    const std::string fichero = directorio.Escribe("viga.vmf", ConLinea(1, "3"));
+    const Ejecucion ejecucion = EjecutaCalculo({fichero});
+    EXPECT_EQ(ejecucion.estado, 1);
+    EXPECT_EQ(ejecucion.salida, "");
+    EXPECT_EQ(ejecucion.errores, fichero + ": " + std::string(kDatosIncorrectos) + "\n");
+}
+
+TEST(ErroresCalculo, UnFicheroRechazadoEnJsonLlevaElErrorYNingunResultado)
+{
+    DirectorioTemporal directorio;
+    const std::string fichero = directorio.Escribe("viga.vmf", ConLinea(1, "3"));
+    const Ejecucion ejecucion = EjecutaCalculo({"--json", fichero});
+    EXPECT_EQ(ejecucion.estado, 1);
+    // Section kind 3 is no kind at all: the object has no "tipo".
+    EXPECT_EQ(ejecucion.salida,
+              "{\"fichero\":\"" + fichero + "\",\"error\":\"" + std::string(kDatosIncorrectos) + "\"}\n");
+    EXPECT_TRUE(Contiene(ejecucion.errores, kDatosIncorrectos));
+}
+
+TEST(ErroresCalculo, UnFicheroQueNoExisteDaDosMensajes)
+{
+    DirectorioTemporal directorio;
+    const std::string fichero = directorio.Fichero("no_esta.vmf");
+    const Ejecucion ejecucion = EjecutaCalculo({fichero});
+    EXPECT_EQ(ejecucion.estado, 1);
+    EXPECT_EQ(ejecucion.salida, "");
+    EXPECT_EQ(ejecucion.errores, fichero + ": " + std::string(kNoEncontrado) + "\n" + fichero + ": " +
+                                     std::string(kDatosIncorrectos) + "\n");
+}
+
+TEST(ErroresCalculo, UnFicheroQueNoExisteEnJsonUneLosMensajes)
+{
+    DirectorioTemporal directorio;
+    const std::string fichero = directorio.Fichero("no_esta.vmc");
+    const Ejecucion ejecucion = EjecutaCalculo({"--json", fichero});
+    EXPECT_EQ(ejecucion.estado, 1);
+    EXPECT_EQ(ejecucion.salida, "{\"fichero\":\"" + fichero + "\",\"tipo\":\"confinamiento\",\"error\":\"" +
+                                    std::string(kNoEncontrado) + "\\n" + std::string(kDatosIncorrectos) + "\"}\n");
+}
+
+TEST(ErroresCalculo, UnFicheroCortoDiceElFinalAntesQueLosDatos)
+{
+    DirectorioTemporal directorio;
+    const std::string fichero = directorio.Escribe("corto.vmf", "1\r\n0.4\r\n");
+    const Ejecucion ejecucion = EjecutaCalculo({fichero});
+    EXPECT_EQ(ejecucion.estado, 1);
+    EXPECT_EQ(Lineas(ejecucion.errores),
+              (std::vector<std::string>{fichero + ": Error 62: La entrada sobrepasa el final del archivo",
+                                        fichero + ": " + std::string(kDatosIncorrectos)}));
+}
+
+TEST(ErroresCalculo, UnMomentoInicialGrandeSuperaLaPredeformacion)
+{
+    DirectorioTemporal directorio;
+    // MCP is line 13 of a rectangular file.
+    const std::string fichero = directorio.Escribe("viga.vmf", ConLinea(13, "1000"));
+    const Ejecucion ejecucion = EjecutaCalculo({fichero});
+    EXPECT_EQ(ejecucion.estado, 1);
+    EXPECT_EQ(ejecucion.salida, "");
+    EXPECT_EQ(ejecucion.errores, fichero + ": " + std::string(kMensajePredeformacion) + "\n");
+}
+
+TEST(ErroresCalculo, LaPredeformacionEnJsonConservaElTipo)
+{
+    DirectorioTemporal directorio;
+    const std::string fichero = directorio.Escribe("viga.vmf", ConLinea(13, "1000"));
+    const Ejecucion ejecucion = EjecutaCalculo({"--json", fichero});
+    EXPECT_EQ(ejecucion.estado, 1);
+    EXPECT_EQ(ejecucion.salida, "{\"fichero\":\"" + fichero + "\",\"tipo\":\"rectangular\",\"error\":\"" +
+                                    std::string(kMensajePredeformacion) + "\"}\n");
+}
+
+TEST(ErroresCalculo, UnAxilGrandeSuperaLaPredeformacionDelPilar)
+{
+    DirectorioTemporal directorio;
+    const std::string fichero =
+        directorio.Escribe("pilar.vmc", "1\r\n0.5\r\n0.4\r\n25\r\n1.5\r\n1.15\r\n1.4\r\n100000\r\n1\r\n");
+    const Ejecucion ejecucion = EjecutaCalculo({fichero});
+    EXPECT_EQ(ejecucion.estado, 1);
+    EXPECT_EQ(ejecucion.errores, fichero + ": " + std::string(kMensajePredeformacion) + "\n");
+}
+
+TEST(ErroresCalculo, OtraExtensionNoEsUnProyecto)
+{
+    DirectorioTemporal directorio;
+    const std::string fichero = directorio.Escribe("notas.txt", kFlexionRectangular);
+    const Ejecucion ejecucion = EjecutaCalculo({fichero});
+    EXPECT_EQ(ejecucion.estado, 1);
+    EXPECT_EQ(ejecucion.salida, "");
+    EXPECT_EQ(ejecucion.errores, fichero + ": no es un fichero de proyecto TEXALON (.vmf o .vmc).\n");
+}
+
+TEST(ErroresCalculo, OtraExtensionEnJsonNoTieneTipo)
+{
+    const Ejecucion ejecucion = EjecutaCalculo({"--json", "notas.txt"});
+    EXPECT_EQ(ejecucion.estado, 1);
+    EXPECT_EQ(ejecucion.salida,
+              "{\"fichero\":\"notas.txt\",\"error\":\"no es un fichero de proyecto TEXALON (.vmf o .vmc).\"}\n");
+}
+
+TEST(ErroresCalculo, TrasUnFalloSigueConLosDemas)
+{
+    DirectorioTemporal directorio;
+    const std::string viga = directorio.Escribe("viga.vmf", kFlexionRectangular);
+    const std::string ausente = directorio.Fichero("ausente.vmf");
+    const std::string pilar = directorio.Escribe("pilar.vmc", kConfinamiento);
+    const Ejecucion ejecucion = EjecutaCalculo({viga, ausente, pilar});
+    EXPECT_EQ(ejecucion.estado, 1);
+    EXPECT_TRUE(Contiene(ejecucion.salida, viga + ": Flexión, sección rectangular\n"));
+    EXPECT_TRUE(Contiene(ejecucion.salida, "\n\n" + pilar + ": Confinamiento, sección circular\n"));
+    EXPECT_FALSE(Contiene(ejecucion.salida, ausente));
+    EXPECT_TRUE(Contiene(ejecucion.errores, ausente + ": " + std::string(kNoEncontrado)));
+    EXPECT_FALSE(Contiene(ejecucion.errores, viga));
+}
+
+TEST(ErroresCalculo, TrasUnFalloSigueConLosDemasEnJson)
+{
+    DirectorioTemporal directorio;
+    const std::string viga = directorio.Escribe("viga.vmf", kFlexionRectangular);
+    const std::string pilar = directorio.Escribe("pilar.vmc", kConfinamiento);
+    const Ejecucion ejecucion = EjecutaCalculo({"--json", viga, "notas.txt", pilar});
+    EXPECT_EQ(ejecucion.estado, 1);
+    const std::vector<std::string> objetos = Lineas(ejecucion.salida);
+    ASSERT_EQ(objetos.size(), 3U);
+    EXPECT_TRUE(Contiene(objetos[0], "\"MU\":[["));
+    EXPECT_TRUE(Contiene(objetos[1], "\"error\":"));
+    EXPECT_TRUE(Contiene(objetos[2], "\"RESU\":[["));
+}
+
+TEST(ErroresCalculo, TodosCorrectosTerminaConCero)
+{
+    DirectorioTemporal directorio;
+    const Ejecucion ejecucion =
+        EjecutaCalculo({directorio.Escribe("a.vmf", kFlexionRectangular), directorio.Escribe("b.VMF", kFlexionT)});
+    EXPECT_EQ(ejecucion.estado, 0);
+    EXPECT_EQ(ejecucion.errores, "");
+}
+
+}  // namespace
+}  // namespace texalon::prueba
