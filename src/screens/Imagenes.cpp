@@ -1,4 +1,4 @@
-#include "shell/Imagenes.h"
+#include "screens/Imagenes.h"
 
 #include <QGuiApplication>
 

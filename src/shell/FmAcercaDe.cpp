@@ -1,6 +1,6 @@
 #include "shell/FmAcercaDe.h"
 
-#include "shell/Imagenes.h"
+#include "screens/Imagenes.h"
 
 #include <QFrame>
 #include <QGridLayout>

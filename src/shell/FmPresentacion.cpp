@@ -1,6 +1,6 @@
 #include "shell/FmPresentacion.h"
 
-#include "shell/Imagenes.h"
+#include "screens/Imagenes.h"
 #include "state/General.h"
 
 #include <QFrame>

@@ -1,9 +1,10 @@
 #include "shell/MdiPrincipal.h"
 
 #include "platform/Plataforma.h"
+#include "screens/FmFlexion.h"
 #include "shell/FmAcercaDe.h"
 #include "shell/FmPresentacion.h"
-#include "shell/Imagenes.h"
+#include "screens/Imagenes.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -119,6 +120,7 @@ MdiPrincipal::MdiPrincipal(QWidget* padre) : QMainWindow(padre)
     area_->setBackground(palette().brush(QPalette::Dark));
     area_->viewport()->installEventFilter(this);
     setCentralWidget(area_);
+    connect(area_, &QMdiArea::subWindowActivated, this, &MdiPrincipal::VentanaActivada);
 
     CreaMenu();
     CreaBarra();
@@ -275,18 +277,51 @@ void MdiPrincipal::CierraPantallaAbierta()
             if (QMdiSubWindow* ventana = Ventana(pantalla)) ventana->close();
 }
 
-void MdiPrincipal::NuevaPantalla(void (*valoresIniciales)(General&))
+void MdiPrincipal::NuevaPantalla(Pantalla pantalla, void (*valoresIniciales)(General&))
 {
     Estado().F_ABIERTO = false;
     CierraPantallaAbierta();
     valoresIniciales(Estado());
+    MuestraPantalla(pantalla);
 }
 
-void MdiPrincipal::NuevaFlexion() { NuevaPantalla(&ValoresFlexion); }
+void MdiPrincipal::NuevaFlexion() { NuevaPantalla(Pantalla::Flexion, &ValoresFlexion); }
 
-void MdiPrincipal::NuevaFlexionT() { NuevaPantalla(&ValoresFlexion); }
+void MdiPrincipal::NuevaFlexionT() { NuevaPantalla(Pantalla::FlexionT, &ValoresFlexion); }
 
-void MdiPrincipal::NuevoConfinamiento() { NuevaPantalla(&ValoresNuevoConfinamiento); }
+void MdiPrincipal::NuevoConfinamiento() { NuevaPantalla(Pantalla::Confina, &ValoresNuevoConfinamiento); }
+
+void MdiPrincipal::MuestraPantalla(Pantalla pantalla)
+{
+    QWidget* contenido = nullptr;
+    if (pantalla == Pantalla::Flexion || pantalla == Pantalla::FlexionT) {
+        auto* flexion = new FmFlexion(pantalla == Pantalla::FlexionT);
+        connect(flexion, &FmFlexion::Descargada, this, &MdiPrincipal::PantallaDescargada);
+        contenido = flexion;
+    }
+    // The confinement and characteristics screens join here as they are built.
+    if (contenido == nullptr) return;
+
+    // A screen has a fixed size and a frame that can be minimised and closed, not stretched.
+    QMdiSubWindow* ventana = area_->addSubWindow(contenido, Qt::SubWindow | Qt::WindowTitleHint |
+                                                                Qt::WindowSystemMenuHint |
+                                                                Qt::WindowMinimizeButtonHint |
+                                                                Qt::WindowCloseButtonHint);
+    ventana->setAttribute(Qt::WA_DeleteOnClose);
+    ventana->setWindowIcon(contenido->windowIcon());
+    ventana->adjustSize();
+    ventana->setFixedSize(ventana->sizeHint());
+    ventana->move(0, 0);
+    ventana->show();
+    contenido->setFocus();
+}
+
+void MdiPrincipal::VentanaActivada(QMdiSubWindow* ventana)
+{
+    if (ventana == nullptr || ventana->widget() == nullptr) return;
+    for (Pantalla pantalla : {Pantalla::Flexion, Pantalla::FlexionT, Pantalla::Confina, Pantalla::Carac})
+        if (ventana->widget()->objectName() == NombrePantalla(pantalla)) PantallaActivada(pantalla);
+}
 
 void MdiPrincipal::Caracteristicas()
 {

@@ -77,7 +77,9 @@ private:
     void CentraPresentacion();
     void DevuelveTamano();
     void ActivaGuardarEImprimir(bool guardar, bool imprimir);
-    void NuevaPantalla(void (*valoresIniciales)(General&));
+    void NuevaPantalla(Pantalla pantalla, void (*valoresIniciales)(General&));
+    void MuestraPantalla(Pantalla pantalla);
+    void VentanaActivada(QMdiSubWindow* ventana);
     QMdiSubWindow* Ventana(Pantalla pantalla) const;
 
     QMdiArea* area_ = nullptr;

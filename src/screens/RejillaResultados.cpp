@@ -1,0 +1,215 @@
+#include "screens/RejillaResultados.h"
+
+#include "state/ErrorEjecucion.h"
+
+#include <QHeaderView>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QStyledItemDelegate>
+#include <algorithm>
+
+namespace texalon {
+
+namespace {
+
+constexpr double kTwipsPorPixel = 15.0;
+
+// Paints a cell with its own background also when it is the current one: a yellow cell has to
+// read as yellow while its results are on show. The current cell gets a frame instead of the
+// selection colour, and only while the grid is active.
+class PintorCelda : public QStyledItemDelegate {
+public:
+    explicit PintorCelda(RejillaResultados* rejilla) : QStyledItemDelegate(rejilla), rejilla_(rejilla) {}
+
+    void paint(QPainter* pintor, const QStyleOptionViewItem& opcion, const QModelIndex& indice) const override
+    {
+        QStyleOptionViewItem celda(opcion);
+        celda.state &= ~(QStyle::State_Selected | QStyle::State_HasFocus);
+        // The classic grid keeps its black text when it is disabled: the old table stays legible.
+        celda.state |= QStyle::State_Enabled;
+        QStyledItemDelegate::paint(pintor, celda, indice);
+        if (rejilla_->EstaActiva() && indice == rejilla_->currentIndex()) DibujaMarco(pintor, opcion);
+    }
+
+private:
+    static void DibujaMarco(QPainter* pintor, const QStyleOptionViewItem& opcion)
+    {
+        pintor->save();
+        QPen lapiz(opcion.palette.color(QPalette::Active, QPalette::Highlight), 2.0);
+        lapiz.setJoinStyle(Qt::MiterJoin);
+        pintor->setPen(lapiz);
+        pintor->setBrush(Qt::NoBrush);
+        // The 2-pixel pen centred one pixel inside the cell covers its two outer pixels and
+        // leaves the grid line alone.
+        pintor->drawRect(QRectF(opcion.rect).adjusted(1.0, 1.0, -1.0, -1.0));
+        pintor->restore();
+    }
+
+    const RejillaResultados* rejilla_;
+};
+
+}  // namespace
+
+int PixelesDeTwips(int twips)
+{
+    return qRound(twips / kTwipsPorPixel);
+}
+
+RejillaResultados::RejillaResultados(QWidget* padre) : QTableWidget(padre)
+{
+    horizontalHeader()->hide();
+    verticalHeader()->hide();
+    // Without these floors a row of 20 pixels would be raised to the style's own minimum.
+    horizontalHeader()->setMinimumSectionSize(1);
+    verticalHeader()->setMinimumSectionSize(1);
+    horizontalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+
+    setShowGrid(true);
+    setGridStyle(Qt::SolidLine);
+    setWordWrap(false);
+    setCornerButtonEnabled(false);
+    setEditTriggers(QAbstractItemView::NoEditTriggers);
+    setSelectionMode(QAbstractItemView::SingleSelection);
+    setSelectionBehavior(QAbstractItemView::SelectItems);
+    // Tab leaves the grid for the next control, as it does everywhere else on the screens.
+    setTabKeyNavigation(false);
+    setAutoScroll(false);
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    setFocusPolicy(Qt::StrongFocus);
+    setItemDelegate(new PintorCelda(this));
+
+    connect(this, &QTableWidget::currentCellChanged, this,
+            [this](int fila, int columna, int, int) { AvisaCambio(fila, columna); });
+}
+
+void RejillaResultados::Dimensiona(int filas, int columnas, int altoFilaTwips, int anchoColumnaTwips,
+                                   int anchoColumna0Twips)
+{
+    // Emptying first drops every old cell and the current one with them.
+    setRowCount(0);
+    setColumnCount(0);
+    setRowCount(filas);
+    setColumnCount(columnas);
+    for (int fila = 0; fila < filas; ++fila) {
+        setRowHeight(fila, PixelesDeTwips(altoFilaTwips));
+        for (int columna = 0; columna < columnas; ++columna)
+            setItem(fila, columna, CeldaNueva(fila, columna));
+    }
+    for (int columna = 0; columna < columnas; ++columna)
+        setColumnWidth(columna, PixelesDeTwips(columna == 0 ? anchoColumna0Twips : anchoColumnaTwips));
+    updateGeometry();
+}
+
+QTableWidgetItem* RejillaResultados::CeldaNueva(int fila, int columna) const
+{
+    auto* celda = new QTableWidgetItem;
+    celda->setTextAlignment(Qt::AlignCenter);
+    celda->setForeground(QColor(0, 0, 0));
+    if (EsFija(fila, columna)) {
+        celda->setFlags(Qt::ItemIsEnabled);
+        celda->setBackground(kGrisFijo);
+    } else {
+        celda->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable);
+        celda->setBackground(kBlanco);
+    }
+    return celda;
+}
+
+QTableWidgetItem* RejillaResultados::Celda(int fila, int columna) const
+{
+    QTableWidgetItem* celda = item(fila, columna);
+    if (celda == nullptr) throw ErrorEjecucion(ErrorEjecucion::kSubindiceFueraDeIntervalo);
+    return celda;
+}
+
+void RejillaResultados::EscribeCelda(int fila, int columna, const QString& texto)
+{
+    Celda(fila, columna)->setText(texto);
+}
+
+void RejillaResultados::ColoreaCelda(int fila, int columna, const QColor& color)
+{
+    Celda(fila, columna)->setBackground(color);
+}
+
+QString RejillaResultados::Texto(int fila, int columna) const
+{
+    return Celda(fila, columna)->text();
+}
+
+QColor RejillaResultados::Color(int fila, int columna) const
+{
+    return Celda(fila, columna)->background().color();
+}
+
+void RejillaResultados::CeldaActual(int fila, int columna)
+{
+    Celda(fila, columna);  // a cell outside the grid fails here, before anything moves
+    setCurrentCell(fila, columna);
+}
+
+void RejillaResultados::Activa(bool activa)
+{
+    activa_ = activa;
+    setEnabled(activa);
+    setFocusPolicy(activa ? Qt::StrongFocus : Qt::NoFocus);
+    if (!activa) {
+        clearSelection();
+        selectionModel()->setCurrentIndex(QModelIndex(), QItemSelectionModel::NoUpdate);
+    }
+    viewport()->update();
+}
+
+void RejillaResultados::AvisaCambio(int fila, int columna)
+{
+    // Losing the current cell is no cell to show: only a real cell is announced.
+    if (fila >= 0 && columna >= 0) emit SeleccionCambiada(fila, columna);
+}
+
+QSize RejillaResultados::sizeHint() const
+{
+    const int marco = 2 * frameWidth();
+    int ancho = marco;
+    int alto = marco;
+    for (int columna = 0; columna < columnCount(); ++columna)
+        ancho += columnWidth(columna);
+    for (int fila = 0; fila < rowCount(); ++fila)
+        alto += rowHeight(fila);
+    return {ancho, alto};
+}
+
+QModelIndex RejillaResultados::moveCursor(CursorAction accion, Qt::KeyboardModifiers modificadores)
+{
+    const QModelIndex destino = QTableWidget::moveCursor(accion, modificadores);
+    if (!destino.isValid() || rowCount() < 2 || columnCount() < 2) return destino;
+    // The keys move among the results only: the fixed row and column are headings.
+    return model()->index(std::max(destino.row(), 1), std::max(destino.column(), 1));
+}
+
+void RejillaResultados::mousePressEvent(QMouseEvent* evento)
+{
+    const QModelIndex celda = indexAt(evento->position().toPoint());
+    pulsada_ = evento->button() == Qt::LeftButton ? QPersistentModelIndex(celda) : QPersistentModelIndex();
+    // A press on a heading leaves the current cell where it is.
+    if (celda.isValid() && EsFija(celda.row(), celda.column())) return;
+    QTableWidget::mousePressEvent(evento);
+}
+
+void RejillaResultados::mouseReleaseEvent(QMouseEvent* evento)
+{
+    QTableWidget::mouseReleaseEvent(evento);
+    const QModelIndex celda = indexAt(evento->position().toPoint());
+    const bool clic = evento->button() == Qt::LeftButton && celda.isValid() && pulsada_ == celda;
+    pulsada_ = QPersistentModelIndex();
+    if (clic) emit Clic(celda.row(), celda.column());
+}
+
+void RejillaResultados::mouseDoubleClickEvent(QMouseEvent* evento)
+{
+    QTableWidget::mouseDoubleClickEvent(evento);
+    // The second press of a double click is no click of its own, on a heading or anywhere else.
+    pulsada_ = QPersistentModelIndex();
+}
+
+}  // namespace texalon

@@ -1,0 +1,605 @@
+#include "engine/Calculos.h"
+#include "platform/dobles/PlataformaDoble.h"
+#include "screens/FmFlexion.h"
+#include "screens/RejillaResultados.h"
+#include "shell/Aplicacion.h"
+#include "state/Formato.h"
+#include "state/General.h"
+
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QtTest>
+#include <fstream>
+#include <memory>
+#include <sstream>
+
+using namespace texalon;
+using namespace texalon::plataforma;
+
+class PruebaFlexion : public QObject {
+    Q_OBJECT
+
+    std::unique_ptr<PlataformaDoble> doble_;
+    QPointer<FmFlexion> pantalla_;
+    char separador_ = ',';
+
+    // A fresh state with the start values, and the screen loaded over it.
+    FmFlexion& Abre(bool seccionT = false, char separador = ',')
+    {
+        delete pantalla_;
+        Estado() = General{};
+        ValoresIniciales(Estado());
+        doble_ = std::make_unique<PlataformaDoble>();
+        doble_->regional.separador = separador;
+        separador_ = separador;
+        pantalla_ = new FmFlexion(seccionT);
+        pantalla_->show();
+        pantalla_->activateWindow();
+        if (!QTest::qWaitForWindowActive(pantalla_)) qWarning("la pantalla no se ha activado");
+        return *pantalla_;
+    }
+
+    QWidget* C(const char* nombre) { return pantalla_->Control(QString::fromLatin1(nombre)); }
+    QLineEdit* Campo(const char* nombre) { return qobject_cast<QLineEdit*>(C(nombre)); }
+    QComboBox* Lista(const char* nombre) { return qobject_cast<QComboBox*>(C(nombre)); }
+    RejillaResultados* Rejilla() { return qobject_cast<RejillaResultados*>(C("FG_FLEXION")); }
+    QString Sep(const char* texto) const
+    {
+        QString s = QString::fromUtf8(texto);
+        if (separador_ == '.') s.replace(QLatin1Char(','), QLatin1Char('.'));
+        return s;
+    }
+
+    // Types a text into a field and leaves it with Tab, as a user would.
+    void Escribe(const char* nombre, const QString& texto)
+    {
+        QWidget* control = C(nombre);
+        control->setFocus();
+        QTRY_VERIFY(control->hasFocus());
+        if (auto* lista = qobject_cast<QComboBox*>(control))
+            lista->setEditText(texto);
+        else
+            qobject_cast<QLineEdit*>(control)->setText(texto);
+        QTest::keyClick(control, Qt::Key_Tab);
+    }
+
+    QStringList Mensajes() const
+    {
+        QStringList lista;
+        for (const auto& m : doble_->mensajes.mostrados) lista << m.texto;
+        return lista;
+    }
+
+    bool BotonesResultado(bool activos)
+    {
+        for (const char* b : {"CM_ANCLAJE", "CM_ARMADURA", "CM_CAPAS", "CM_DEFORMACIONES"})
+            if (C(b)->isEnabled() != activos) return false;
+        return true;
+    }
+
+    void Calcula()
+    {
+        auto* boton = qobject_cast<QPushButton*>(C("CM_CALCULAR"));
+        QTest::mouseClick(boton, Qt::LeftButton);
+    }
+
+private slots:
+    void cleanup()
+    {
+        if (pantalla_) {
+            doble_->mensajes.respuestas.clear();
+            pantalla_->close();
+        }
+        delete pantalla_;
+        doble_.reset();
+    }
+
+    void cargaConTituloYCamposDelEstado()
+    {
+        FmFlexion& p = Abre();
+        QCOMPARE(p.objectName(), QStringLiteral("FM_FLEXION"));
+        QCOMPARE(p.windowTitle(), QStringLiteral("Cálculo del refuerzo a flexión en secciones rectangulares"));
+        QVERIFY(Estado().F_FLEXION);
+        QVERIFY(!Estado().F_GRABADO);
+        QVERIFY(Estado().F_NUEVO);
+        QCOMPARE(Campo("TX_ANCHO")->text(), QStringLiteral("0,400"));
+        QCOMPARE(Campo("TX_CANTO")->text(), QStringLiteral("0,600"));
+        QCOMPARE(Campo("TX_RECUB")->text(), QStringLiteral("0,050"));
+        QCOMPARE(Campo("TX_ASI")->text(), QStringLiteral("10,00"));
+        QCOMPARE(Campo("TX_ASS")->text(), QStringLiteral("0,00"));
+        QCOMPARE(Campo("TX_MCP")->text(), QStringLiteral("0,00"));
+        QCOMPARE(Campo("TX_MD")->text(), QStringLiteral("0,00"));
+        QCOMPARE(Lista("CO_FCK")->currentText(), QStringLiteral("25"));
+        QCOMPARE(Lista("CO_FCK")->count(), 6);
+        QCOMPARE(Lista("CO_FYK")->currentIndex(), 1);
+        QCOMPARE(Lista("CO_ANCHOR")->currentText(), QStringLiteral("0,125"));
+        QCOMPARE(Lista("CO_ANCHOR")->itemText(4), QStringLiteral("0,500"));
+        QVERIFY(BotonesResultado(false));
+        QVERIFY(!Rejilla()->EstaActiva());
+        QVERIFY(!C("LB_INFO")->isVisible());
+        QCOMPARE(qobject_cast<QLabel*>(C("LB_TIPO"))->text(), QString());
+    }
+
+    void cargaEnInglesConPunto()
+    {
+        Abre(false, '.');
+        QCOMPARE(Campo("TX_ANCHO")->text(), QStringLiteral("0.400"));
+        QCOMPARE(Lista("CO_ANCHOR")->itemText(2), QStringLiteral("0.250"));
+    }
+
+    void abiertaDeFicheroNoEsNueva()
+    {
+        Estado() = General{};
+        ValoresIniciales(Estado());
+        Estado().F_ABIERTO = true;
+        doble_ = std::make_unique<PlataformaDoble>();
+        pantalla_ = new FmFlexion(false);
+        QVERIFY(Estado().F_GRABADO);
+        QVERIFY(!Estado().F_NUEVO);
+    }
+
+    void listaConOtroValorLoPoneEnLaFilaSiguiente()
+    {
+        Estado() = General{};
+        ValoresIniciales(Estado());
+        Estado().FCK = 27.0;
+        Estado().ANCHOR = 0.1234;
+        doble_ = std::make_unique<PlataformaDoble>();
+        doble_->regional.separador = ',';
+        pantalla_ = new FmFlexion(false);
+        QCOMPARE(Lista("CO_FCK")->count(), 7);
+        QCOMPARE(Lista("CO_FCK")->currentIndex(), 6);
+        QCOMPARE(Lista("CO_FCK")->currentText(), QStringLiteral("27"));
+        QCOMPARE(Lista("CO_ANCHOR")->currentIndex(), 5);
+        QCOMPARE(Lista("CO_ANCHOR")->currentText(), QStringLiteral("0,123"));
+        QCOMPARE(Estado().ANCHOR, 0.1234);
+    }
+
+    void campoVacioDaSuMensajeYGuardaElValorPorDefecto()
+    {
+        Abre();
+        C("TX_RECUB")->setFocus();
+        QTRY_VERIFY(C("TX_RECUB")->hasFocus());
+        // Leaving the first field on the way here was a pass through a valid field.
+        QVERIFY(Estado().F_MODIFICADO);
+        Estado().F_MODIFICADO = false;
+        Estado().RECUB = 0.07;
+        Escribe("TX_RECUB", QString());
+        QCOMPARE(Mensajes(), QStringList{QStringLiteral("Debe darse el recubrimiento de la sección.")});
+        QCOMPARE(doble_->mensajes.mostrados[0].estilo, Estilo::Parada);
+        QVERIFY(Campo("TX_RECUB")->hasFocus());
+        QCOMPARE(Estado().RECUB, 0.05);
+        QCOMPARE(Campo("TX_RECUB")->text(), QString());
+        QVERIFY(!Estado().F_MODIFICADO);
+    }
+
+    void textoNoNumericoQuedaSeleccionado()
+    {
+        Abre();
+        Escribe("TX_RECUB", QStringLiteral("12a"));
+        QCOMPARE(Mensajes(), QStringList{QStringLiteral("El recubrimiento de la sección debe ser un número.")});
+        QVERIFY(Campo("TX_RECUB")->hasFocus());
+        QCOMPARE(Campo("TX_RECUB")->text(), QStringLiteral("12a"));
+        QCOMPARE(Campo("TX_RECUB")->selectedText(), QStringLiteral("12a"));
+    }
+
+    void negativoSeAceptaComoPositivo_data()
+    {
+        QTest::addColumn<char>("separador");
+        QTest::newRow("coma") << ',';
+        QTest::newRow("punto") << '.';
+    }
+
+    void negativoSeAceptaComoPositivo()
+    {
+        QFETCH(char, separador);
+        Abre(false, separador);
+        Escribe("TX_CANTO", QStringLiteral("-2,5"));
+        QVERIFY(Mensajes().isEmpty());
+        QCOMPARE(Estado().CANTO, 2.5);
+        QCOMPARE(Campo("TX_CANTO")->text(), Sep("2,500"));
+        QVERIFY(Estado().F_MODIFICADO);
+        QVERIFY(!Estado().F_CALCULADO);
+    }
+
+    void limiteInferiorDeUnCentimetro()
+    {
+        Abre();
+        Escribe("TX_RECUB", QStringLiteral("0,001"));
+        QCOMPARE(Mensajes(), QStringList{QStringLiteral("El recubrimiento de la sección debe ser mayor que cero.")});
+        doble_->mensajes.mostrados.clear();
+        Escribe("TX_RECUB", QStringLiteral("0,01"));
+        QVERIFY(Mensajes().isEmpty());
+        QCOMPARE(Estado().RECUB, 0.01);
+    }
+
+    void recubrimientoIgualALaMitadDelCantoPasa()
+    {
+        Abre();
+        Escribe("TX_RECUB", QStringLiteral("0,3"));
+        QVERIFY(Mensajes().isEmpty());
+        Escribe("TX_RECUB", QStringLiteral("0,301"));
+        QCOMPARE(Mensajes(),
+                 QStringList{QStringLiteral("El recubrimiento de la sección debe ser menor que la mitad del canto.")});
+        QCOMPARE(Estado().RECUB, 0.05);
+    }
+
+    void milesConComaDaUnoComaDosTresCuatro()
+    {
+        Abre();
+        Escribe("TX_MD", QStringLiteral("1.234,5"));
+        QVERIFY(Mensajes().isEmpty());
+        QCOMPARE(Estado().MD, 1.234);
+        QCOMPARE(Campo("TX_MD")->text(), QStringLiteral("1,23"));
+    }
+
+    void blancosAlrededorSeQuitan()
+    {
+        Abre();
+        Escribe("TX_ASI", QStringLiteral("  12,5 "));
+        QCOMPARE(Estado().ASI, 12.5);
+        QCOMPARE(Campo("TX_ASI")->text(), QStringLiteral("12,50"));
+    }
+
+    void armaduraSuperiorVaciaPoneDiezEnElEstado()
+    {
+        Abre();
+        Escribe("TX_ASS", QString());
+        QCOMPARE(Mensajes(), QStringList{QStringLiteral("Debe darse la armadura superior de la sección.")});
+        QCOMPARE(Estado().ASS, 10.0);
+        QCOMPARE(Campo("TX_ASS")->text(), QString());
+    }
+
+    void anchoMenorQueElRefuerzoEsPruebaBlanda()
+    {
+        Abre();
+        Escribe("TX_ANCHO", QStringLiteral("0,1"));
+        QCOMPARE(Mensajes(),
+                 QStringList{QStringLiteral("El ancho del refuerzo no puede ser mayor que el ancho de la sección.")});
+        QCOMPARE(Estado().ANCHO, 0.1);
+        QCOMPARE(Campo("TX_ANCHO")->text(), QStringLiteral("0,100"));
+        QVERIFY(Lista("CO_ANCHOR")->hasFocus());
+        QVERIFY(Estado().F_MODIFICADO);
+    }
+
+    void anchoDelRefuerzoMayorQueElAnchoVuelveAlAncho()
+    {
+        Abre();
+        Escribe("CO_ANCHOR", QStringLiteral("0,5"));
+        QCOMPARE(Mensajes(), QStringList{QStringLiteral(
+                                 "El ancho del refuerzo a disponer en la sección debe ser menor que el ancho de la "
+                                 "sección.")});
+        QCOMPARE(Estado().ANCHOR, 0.4);
+        QCOMPARE(Lista("CO_ANCHOR")->currentText(), QStringLiteral("0,5"));
+        QVERIFY(Lista("CO_ANCHOR")->hasFocus());
+    }
+
+    void anchoDelRefuerzoIgualAlAnchoSeAcepta()
+    {
+        Abre();
+        Escribe("CO_ANCHOR", QStringLiteral("0,4"));
+        QVERIFY(Mensajes().isEmpty());
+        QCOMPARE(Estado().ANCHOR, 0.4);
+        QCOMPARE(Lista("CO_ANCHOR")->currentText(), QStringLiteral("0,400"));
+    }
+
+    void resistenciasConSusLimites()
+    {
+        Abre();
+        Escribe("CO_FCK", QStringLiteral("27"));
+        QVERIFY(Mensajes().isEmpty());
+        QCOMPARE(Estado().FCK, 27.0);
+        Escribe("CO_FCK", QStringLiteral("51"));
+        Escribe("CO_FCK", QStringLiteral("14"));
+        Escribe("CO_FCK", QStringLiteral("30"));
+        Escribe("CO_FYK", QStringLiteral("601"));
+        Escribe("CO_FYK", QStringLiteral("299"));
+        QCOMPARE(Mensajes(),
+                 QStringList({QStringLiteral("La resistencia del hormigón de la sección no puede ser mayor de 50 N/mm²."),
+                              QStringLiteral("La resistencia del hormigón de la sección no puede ser menor de 15 N/mm²."),
+                              QStringLiteral("La resistencia del acero de las armaduras no puede ser mayor de 600 N/mm²."),
+                              QStringLiteral("La resistencia del acero de las armaduras no puede ser menor de 300 N/mm².")}));
+        QCOMPARE(Estado().FYK, 500.0);
+    }
+
+    void calculoPorDefectoNoNecesitaRefuerzo()
+    {
+        Abre();
+        Calcula();
+        QVERIFY(Mensajes().isEmpty());
+        QVERIFY(Estado().F_CALCULADO);
+        QVERIFY(!Estado().F_CALCULANDO);
+        auto* info = qobject_cast<QLabel*>(C("LB_INFO"));
+        QVERIFY(info->isVisible());
+        QCOMPARE(info->text(), QStringLiteral(" NO ES NECESARIO REFORZAR LA SECCION "));
+        QCOMPARE(info->palette().color(QPalette::WindowText), QColor(0, 128, 0));
+        QVERIFY(BotonesResultado(true));
+        RejillaResultados* r = Rejilla();
+        QVERIFY(r->EstaActiva());
+        QCOMPARE(r->Fila(), 1);
+        QCOMPARE(r->Columna(), 1);
+        QCOMPARE(r->Texto(0, 0), QStringLiteral("Nº capas"));
+        QCOMPARE(r->Texto(0, 1), QStringLiteral("TEXALON L"));
+        QCOMPARE(r->Texto(1, 1), QStringLiteral("238,5"));
+        QCOMPARE(r->Texto(5, 2), QStringLiteral("294,9"));
+        for (int n = 1; n <= 5; ++n) {
+            QCOMPARE(r->Texto(n, 0), QString::number(n));
+            for (int t = 1; t <= 3; ++t) {
+                const bool marca = t == 3 && n >= 3;
+                QCOMPARE(r->Texto(n, t) == QLatin1String("---"), marca);
+                QCOMPARE(r->Color(n, t), marca ? QColor(255, 255, 255) : QColor(255, 255, 0));
+            }
+        }
+        QCOMPARE(qobject_cast<QLabel*>(C("LB_TIPO"))->text(), QStringLiteral("Refuerzo tipo TEXALON L - Núm. capas: 1"));
+        QCOMPARE(Campo("TX_MU")->text(), QStringLiteral("238,5"));
+        QCOMPARE(Campo("TX_MUSR")->text(), QStringLiteral("222,5"));
+        QCOMPARE(Campo("TX_PIVOTE")->text(), QStringLiteral("R"));
+        QCOMPARE(Campo("TX_FN")->text(), QStringLiteral("0,103"));
+        QCOMPARE(Campo("TX_EPSR")->text(), QStringLiteral("9,64"));
+        QCOMPARE(Campo("TX_MRB")->text(), QStringLiteral("366,6"));
+        QCOMPARE(Campo("TX_MLIMCR")->text(), QStringLiteral("692,4"));
+        QCOMPARE(Campo("TX_EPS0")->text(), QStringLiteral("0,00"));
+    }
+
+    void momentoDe230DejaElLetreroOculto()
+    {
+        Abre();
+        Escribe("TX_MD", QStringLiteral("230"));
+        Calcula();
+        QVERIFY(!C("LB_INFO")->isVisible());
+        for (int n = 1; n <= 5; ++n) {
+            QCOMPARE(Rejilla()->Color(n, 1), QColor(255, 255, 0));
+            QCOMPARE(Rejilla()->Color(n, 2), QColor(255, 255, 0));
+            QCOMPARE(Rejilla()->Color(n, 3), n <= 2 ? QColor(255, 255, 0) : QColor(255, 255, 255));
+        }
+    }
+
+    void momentoDe300NoSePuedeReforzar()
+    {
+        Abre();
+        Escribe("TX_MD", QStringLiteral("300"));
+        Calcula();
+        auto* info = qobject_cast<QLabel*>(C("LB_INFO"));
+        QVERIFY(info->isVisible());
+        QCOMPARE(info->text(), QStringLiteral(" NO SE PUEDE REFORZAR LA SECCION "));
+        QCOMPARE(info->palette().color(QPalette::WindowText), QColor(255, 0, 0));
+        for (int n = 1; n <= 5; ++n)
+            for (int t = 1; t <= 3; ++t) QCOMPARE(Rejilla()->Color(n, t), QColor(255, 255, 255));
+        QCOMPARE(Campo("TX_MU")->text(), QStringLiteral("238,5"));
+    }
+
+    void predeformacionExcesivaTrasUnCalculoDejaLaRejillaInactiva()
+    {
+        Abre();
+        Calcula();
+        Escribe("TX_MCP", QStringLiteral("1000"));
+        Calcula();
+        QCOMPARE(Mensajes(), QStringList{QStringLiteral("La predeformación de la estructura es superior al 2 por mil.")});
+        QVERIFY(!Rejilla()->EstaActiva());
+        QVERIFY(Estado().F_CALCULANDO);
+        QVERIFY(!Estado().F_CALCULADO);
+        // The old table stays on show over the cleared arrays.
+        QCOMPARE(Rejilla()->Texto(1, 1), QStringLiteral("238,5"));
+    }
+
+    void tabularPorUnCampoValidoInvalidaLosResultados()
+    {
+        Abre();
+        Calcula();
+        QVERIFY(BotonesResultado(true));
+        Escribe("TX_ASI", Campo("TX_ASI")->text());
+        QVERIFY(BotonesResultado(false));
+        QVERIFY(!Estado().F_CALCULADO);
+        QVERIFY(Estado().F_MODIFICADO);
+        QCOMPARE(Campo("TX_MU")->text(), QStringLiteral("238,5"));
+    }
+
+    void calcularConUnCampoMalMuestraSuMensajeYNoCalcula()
+    {
+        Abre();
+        QWidget* campo = C("TX_MD");
+        campo->setFocus();
+        QTRY_VERIFY(campo->hasFocus());
+        qobject_cast<QLineEdit*>(campo)->setText(QStringLiteral("abc"));
+        Calcula();
+        QCOMPARE(Mensajes(), QStringList{QStringLiteral("El momento de cálculo debe ser un número.")});
+        QVERIFY(!Estado().F_CALCULADO);
+        QVERIFY(campo->hasFocus());
+        QVERIFY(!Rejilla()->EstaActiva());
+    }
+
+    void celdaSinResultadoDesactivaDeformaciones()
+    {
+        Abre();
+        Calcula();
+        QVERIFY(C("CM_DEFORMACIONES")->isEnabled());
+        Rejilla()->CeldaActual(4, 3);
+        QCOMPARE(Campo("TX_MU")->text(), QStringLiteral("---"));
+        QCOMPARE(Campo("TX_PIVOTE")->text(), QStringLiteral("---"));
+        QCOMPARE(Campo("TX_MUSR")->text(), QStringLiteral("222,5"));
+        QVERIFY(!C("CM_DEFORMACIONES")->isEnabled());
+        Rejilla()->CeldaActual(2, 3);
+        QCOMPARE(Campo("TX_MU")->text(), QStringLiteral("246,8"));
+        QVERIFY(C("CM_DEFORMACIONES")->isEnabled());
+    }
+
+    void seccionTConSusCamposYRestablecimientos()
+    {
+        FmFlexion& p = Abre(true);
+        QCOMPARE(p.objectName(), QStringLiteral("FM_FLEXIONT"));
+        QCOMPARE(p.windowTitle(), QStringLiteral("Cálculo del refuerzo a flexión en secciones T"));
+        QVERIFY(Estado().F_FLEXIONT);
+        QCOMPARE(Campo("TX_ANCHOALMA")->text(), QStringLiteral("0,200"));
+        QCOMPARE(Campo("TX_CANTOALA")->text(), QStringLiteral("0,200"));
+        Estado().ANCHO = 0.5;
+        Escribe("TX_ANCHOALMA", QStringLiteral("0"));
+        QCOMPARE(Mensajes().last(), QStringLiteral("El ancho del alma de la sección debe ser un número mayor que cero."));
+        QCOMPARE(Estado().ANCHO, 0.2);
+        QCOMPARE(Estado().ANCHOALMA, 0.2);
+        Escribe("TX_ANCHOALMA", QStringLiteral("0,25"));
+        Estado().CANTO = 0.7;
+        Escribe("TX_CANTOALA", QStringLiteral("0"));
+        QCOMPARE(Estado().CANTO, 0.2);
+        Escribe("TX_CANTOALA", QStringLiteral("0,2"));
+        QCOMPARE(Estado().CANTOALA, 0.2);
+    }
+
+    void seccionTCantoDelAlaMayorQueElCanto()
+    {
+        Abre(true);
+        Escribe("TX_CANTOALA", QStringLiteral("0,7"));
+        QCOMPARE(Mensajes(), QStringList{QStringLiteral("El canto del ala no puede ser mayor que el canto de la sección.")});
+        QCOMPARE(Estado().CANTOALA, 0.2);
+    }
+
+    void seccionTCantoMenorQueElAlaEsBlando()
+    {
+        Abre(true);
+        Escribe("TX_CANTO", QStringLiteral("0,15"));
+        QCOMPARE(Mensajes(), QStringList{QStringLiteral("El canto del ala no puede ser mayor que el canto de la sección.")});
+        QCOMPARE(Estado().CANTO, 0.15);
+        QVERIFY(Campo("TX_CANTOALA")->hasFocus());
+    }
+
+    void seccionTRefuerzoMasAnchoQueElAlmaPeroNoQueElAla()
+    {
+        Abre(true);
+        Escribe("CO_ANCHOR", QStringLiteral("0,3"));
+        QVERIFY(Mensajes().isEmpty());
+        QCOMPARE(Estado().ANCHOR, 0.3);
+        Escribe("TX_ANCHOALMA", QStringLiteral("0,2"));
+        QCOMPARE(Mensajes(), QStringList{QStringLiteral(
+                                 "El ancho del refuerzo no puede ser mayor que el ancho del alma de la sección.")});
+        QVERIFY(Lista("CO_ANCHOR")->hasFocus());
+    }
+
+    void seccionTCalculaConRoturaT()
+    {
+        Abre(true);
+        Escribe("TX_CANTOALA", QStringLiteral("0,05"));
+        Calcula();
+        QCOMPARE(Rejilla()->Texto(1, 1), QStringLiteral("231,0"));
+        QCOMPARE(Rejilla()->Texto(5, 1), QStringLiteral("270,7"));
+    }
+
+    void cerrarPantallaNuevaPreguntaYNoNoGraba()
+    {
+        Abre();
+        doble_->mensajes.respuestas = {Respuesta::No};
+        pantalla_->close();
+        QCOMPARE(Mensajes(), QStringList{QStringLiteral("Los datos no se han grabado, ¿desea grabar los datos?")});
+        QCOMPARE(doble_->mensajes.mostrados[0].estilo, Estilo::PreguntaSiNo);
+        QVERIFY(doble_->ficheros.guardados.empty());
+        QVERIFY(!Estado().F_FLEXION);
+    }
+
+    void cerrarConSiGrabaElFichero()
+    {
+        Abre();
+        const QString fichero = QDir::temp().filePath(QStringLiteral("texalon_prueba_cierre.vmf"));
+        doble_->mensajes.respuestas = {Respuesta::Si};
+        doble_->ficheros.respuestas.push_back(FicheroElegido{fichero, QDir::tempPath()});
+        pantalla_->close();
+        QCOMPARE(doble_->ficheros.guardados.size(), std::size_t{1});
+        QCOMPARE(doble_->ficheros.guardados[0].nombre, QStringLiteral("flexion.vmf"));
+        QCOMPARE(doble_->ficheros.guardados[0].filtro, QStringLiteral("Archivos TEXALON - Flexión|*.VMF"));
+        QVERIFY(Estado().F_GRABADO);
+        QVERIFY(!Estado().F_MODIFICADO);
+        std::ifstream leido(fichero.toStdString(), std::ios::binary);
+        std::stringstream contenido;
+        contenido << leido.rdbuf();
+        QCOMPARE(QString::fromStdString(contenido.str()),
+                 QStringLiteral("1\r\n0.4\r\n0.6\r\n0.05\r\n10\r\n0\r\n25\r\n500\r\n1.5\r\n1.15\r\n1.4\r\n0.125\r\n0\r\n0\r\n"));
+        QFile::remove(fichero);
+    }
+
+    void cerrarConSiYDatosMalosLosPierde()
+    {
+        Abre();
+        Estado().RECUB = 0.05;
+        qobject_cast<QLineEdit*>(C("TX_ASI"))->setText(QStringLiteral("abc"));
+        doble_->mensajes.respuestas = {Respuesta::Si};
+        pantalla_->close();
+        QCOMPARE(Mensajes(), QStringList({QStringLiteral("Los datos no se han grabado, ¿desea grabar los datos?"),
+                                          QStringLiteral("Los datos introducidos no son correctos.")}));
+        QVERIFY(doble_->ficheros.guardados.empty());
+    }
+
+    void cancelarElDialogoCierraSinDecirNada()
+    {
+        Abre();
+        doble_->mensajes.respuestas = {Respuesta::Si};
+        pantalla_->close();
+        QCOMPARE(doble_->ficheros.guardados.size(), std::size_t{1});
+        QCOMPARE(doble_->mensajes.mostrados.size(), std::size_t{1});
+        QVERIFY(!Estado().F_GRABADO);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        QVERIFY(pantalla_.isNull());
+    }
+
+    void abiertaDeFicheroSinCambiosCierraSinPreguntar()
+    {
+        Estado() = General{};
+        ValoresIniciales(Estado());
+        Estado().F_ABIERTO = true;
+        doble_ = std::make_unique<PlataformaDoble>();
+        pantalla_ = new FmFlexion(false);
+        pantalla_->show();
+        pantalla_->close();
+        QVERIFY(doble_->mensajes.mostrados.empty());
+    }
+
+    void abiertaDeFicheroTrasTabularPregunta()
+    {
+        Estado() = General{};
+        ValoresIniciales(Estado());
+        Estado().F_ABIERTO = true;
+        doble_ = std::make_unique<PlataformaDoble>();
+        doble_->regional.separador = ',';
+        separador_ = ',';
+        pantalla_ = new FmFlexion(false);
+        pantalla_->show();
+        pantalla_->activateWindow();
+        Escribe("TX_CANTO", Campo("TX_CANTO")->text());
+        pantalla_->close();
+        QCOMPARE(Mensajes(), QStringList{QStringLiteral("Los datos no se han grabado, ¿desea grabar los datos?")});
+    }
+
+    void deUnExtremoAOtroComoUnUsuario()
+    {
+        Abre();
+        // Types a section, tabs through it, presses Calculate with the mouse and reads the grid.
+        QLineEdit* ancho = Campo("TX_ANCHO");
+        ancho->setFocus();
+        QTRY_VERIFY(ancho->hasFocus());
+        ancho->selectAll();
+        QTest::keyClicks(ancho, QStringLiteral("0,3"));
+        QTest::keyClick(ancho, Qt::Key_Tab);
+        QLineEdit* canto = Campo("TX_CANTO");
+        QTRY_VERIFY(canto->hasFocus());
+        canto->selectAll();
+        QTest::keyClicks(canto, QStringLiteral("0,5"));
+        QTest::keyClick(canto, Qt::Key_Tab);
+        QVERIFY(Mensajes().isEmpty());
+        QCOMPARE(ancho->text(), QStringLiteral("0,300"));
+        QCOMPARE(canto->text(), QStringLiteral("0,500"));
+        Calcula();
+        QVERIFY(Estado().F_CALCULADO);
+        QCOMPARE(Estado().ANCHO, 0.3);
+        QCOMPARE(Estado().CANTO, 0.5);
+        QCOMPARE(Rejilla()->Texto(1, 1), QString(Formato(Estado().MU(1, 1), "0.0", ',').c_str()));
+        QVERIFY(Rejilla()->Texto(1, 1) != QLatin1String("238,5"));
+    }
+};
+
+int main(int argc, char** argv)
+{
+    AplicacionTexalon aplicacion(argc, argv);
+    PreparaAplicacion(aplicacion);
+    PruebaFlexion prueba;
+    return QTest::qExec(&prueba, argc, argv);
+}
+
+#include "test_fm_flexion.moc"
