@@ -27,7 +27,7 @@ namespace texalon {
 namespace {
 
 constexpr int kAltoControl = 20;
-constexpr int kAnchoCampo = 62;
+constexpr int kAnchoCampo = 58;
 
 // The four buttons that a Calculate enables and any change of a field disables.
 const char* const kBotonesResultado[] = {"CM_ANCLAJE", "CM_ARMADURA", "CM_CAPAS", "CM_DEFORMACIONES"};
@@ -86,7 +86,7 @@ QPushButton* BotonConDibujo(const char* nombre, const char* consejo, const char*
     boton->setAccessibleName(QString::fromUtf8(consejo));
     boton->setIcon(QIcon(QStringLiteral(":/iconos/%1.svg").arg(QString::fromLatin1(dibujo))));
     boton->setIconSize(QSize(24, 24));
-    boton->setFixedSize(38, 34);
+    boton->setFixedSize(34, 32);
     return boton;
 }
 
@@ -106,6 +106,7 @@ FmFlexion::FmFlexion(bool seccionT, QWidget* padre) : QWidget(padre), seccionT_(
     auto* resultados = new QGroupBox(QStringLiteral("Momento último de la sección reforzada (mkN)"), this);
     resultados->setObjectName(QStringLiteral("Frame1"));
     auto* marcoRejilla = new QVBoxLayout(resultados);
+    marcoRejilla->setContentsMargins(6, 6, 6, 6);
     rejilla_ = new RejillaResultados(resultados);
     rejilla_->setObjectName(QStringLiteral("FG_FLEXION"));
     rejilla_->setAccessibleName(resultados->title());
@@ -152,9 +153,9 @@ QWidget* FmFlexion::CreaDatos()
     auto* marco = new QGroupBox(QStringLiteral("Datos de la sección"), this);
     marco->setObjectName(QStringLiteral("Frame2"));
     auto* filas = new QGridLayout(marco);
-    filas->setContentsMargins(8, 6, 8, 6);
+    filas->setContentsMargins(6, 6, 6, 6);
     filas->setVerticalSpacing(2);
-    filas->setHorizontalSpacing(6);
+    filas->setHorizontalSpacing(4);
     int fila = 0;
     const auto& reglas = ReglasFlexion(seccionT_);
     for (std::size_t i = 0; i < reglas.size(); ++i) {
@@ -182,6 +183,7 @@ QWidget* FmFlexion::CreaDatos()
                                              nombre == QLatin1String("TX_CANTOALA"));
         if (companero) {
             filas->addWidget(control, fila - 1, 3);
+            filas->addWidget(new QLabel(QString::fromUtf8(RotuloDe(regla.control).unidad), marco), fila - 1, 4);
             continue;
         }
         QString etiqueta = QString::fromUtf8(RotuloDe(regla.control).etiqueta);

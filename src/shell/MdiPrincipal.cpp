@@ -313,6 +313,7 @@ void MdiPrincipal::MuestraPantalla(Pantalla pantalla)
     ventana->setFixedSize(ventana->sizeHint());
     ventana->move(0, 0);
     ventana->show();
+    area_->setActiveSubWindow(ventana);
     contenido->setFocus();
 }
 

@@ -567,6 +567,72 @@ private slots:
         QCOMPARE(Mensajes(), QStringList{QStringLiteral("Los datos no se han grabado, ¿desea grabar los datos?")});
     }
 
+    void coeficientesDesactivanLosBotonesPorCualquierSalida()
+    {
+        Abre();
+        Calcula();
+        QVERIFY(BotonesResultado(true));
+        auto* gamma = qobject_cast<QPushButton*>(C("CM_GAMMA1"));
+        QCOMPARE(gamma->text(), QStringLiteral("γ"));
+        QTest::mouseClick(gamma, Qt::LeftButton);
+        QCOMPARE(doble_->ventanas.mostradas, QStringList{QStringLiteral("FM_COEF")});
+        QVERIFY(BotonesResultado(false));
+        // Closing the dialog does not clear F_CALCULADO: only a field's pass does.
+        Calcula();
+        QTest::mouseClick(qobject_cast<QPushButton*>(C("CM_GAMMA2")), Qt::LeftButton);
+        QCOMPARE(doble_->ventanas.mostradas.size(), 2);
+        QVERIFY(BotonesResultado(false));
+    }
+
+    void anclajeMuestraSuVentana()
+    {
+        Abre();
+        Calcula();
+        QTest::mouseClick(qobject_cast<QPushButton*>(C("CM_ANCLAJE")), Qt::LeftButton);
+        QCOMPARE(doble_->ventanas.mostradas, QStringList{QStringLiteral("FM_ANCLAJE")});
+        QCOMPARE(Formato(Estado().LANC(1, 1), "0.00", '.'), std::string("0.14"));
+    }
+
+    void seleccionInactivaMientrasSeCalcula()
+    {
+        Abre();
+        Calcula();
+        Estado().F_CALCULANDO = true;
+        Rejilla()->CeldaActual(2, 2);
+        QCOMPARE(qobject_cast<QLabel*>(C("LB_TIPO"))->text(), QStringLiteral("Refuerzo tipo TEXALON L - Núm. capas: 1"));
+        Estado().F_CALCULANDO = false;
+        Rejilla()->CeldaActual(3, 2);
+        QCOMPARE(qobject_cast<QLabel*>(C("LB_TIPO"))->text(), QStringLiteral("Refuerzo tipo TEXALON H - Núm. capas: 3"));
+    }
+
+    void calcularConElTeclado()
+    {
+        Abre();
+        QWidget* boton = C("CM_CALCULAR");
+        boton->setFocus();
+        QTRY_VERIFY(boton->hasFocus());
+        QTest::keyClick(boton, Qt::Key_Space);
+        QVERIFY(Estado().F_CALCULADO);
+    }
+
+    void ordenDeTabulacionYNombresAccesibles()
+    {
+        Abre(true);
+        const char* orden[] = {"TX_ANCHO", "TX_ANCHOALMA", "TX_CANTO", "TX_CANTOALA", "TX_RECUB", "TX_ASI",
+                               "TX_ASS", "TX_MCP", "TX_MD", "CO_FCK", "CO_FYK", "CO_ANCHOR"};
+        C(orden[0])->setFocus();
+        QTRY_VERIFY(C(orden[0])->hasFocus());
+        for (std::size_t i = 1; i < std::size(orden); ++i) {
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+            QVERIFY2(C(orden[i])->hasFocus(), orden[i]);
+        }
+        QCOMPARE(C("TX_ANCHO")->accessibleName(), QStringLiteral("Ancho"));
+        QCOMPARE(C("TX_MD")->accessibleName(), QStringLiteral("Momento solicitante"));
+        QCOMPARE(C("CM_CALCULAR")->toolTip(), QStringLiteral("Calcula flexión"));
+        QCOMPARE(C("TX_MRB")->toolTip(),
+                 QStringLiteral("Momento que hace que el diagrama de rotura pase por los pivotes R y B"));
+    }
+
     void deUnExtremoAOtroComoUnUsuario()
     {
         Abre();

@@ -486,6 +486,50 @@ private slots:
         QTRY_VERIFY(carac.isNull());
     }
 
+    void nuevaConUnaPantallaAbiertaPreguntaAntesYAbreLaNueva_data()
+    {
+        QTest::addColumn<bool>("respuestaSi");
+        QTest::newRow("No") << false;
+        QTest::newRow("Si") << true;
+    }
+
+    void nuevaConUnaPantallaAbiertaPreguntaAntesYAbreLaNueva()
+    {
+        QFETCH(bool, respuestaSi);
+        MdiPrincipal& w = Arranca();
+        w.NuevaFlexion();
+        QVERIFY(Estado().F_FLEXION);
+        QCOMPARE(w.Area()->subWindowList().size(), 1);
+        doble_->mensajes.respuestas = {respuestaSi ? Respuesta::Si : Respuesta::No};
+        bool nuevaYaAbierta = true;
+        doble_->mensajes.alMostrar = [&](const MensajeMostrado&) { nuevaYaAbierta = Estado().F_FLEXIONT; };
+        w.NuevaFlexionT();
+        QCOMPARE(doble_->mensajes.mostrados.size(), std::size_t{1});
+        QCOMPARE(doble_->mensajes.mostrados[0].texto, QStringLiteral("Los datos no se han grabado, ¿desea grabar los datos?"));
+        QVERIFY(!nuevaYaAbierta);
+        QVERIFY(!Estado().F_FLEXION);
+        QVERIFY(Estado().F_FLEXIONT);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        QCOMPARE(w.Area()->subWindowList().size(), 1);
+        QCOMPARE(w.Area()->subWindowList().at(0)->widget()->objectName(), QStringLiteral("FM_FLEXIONT"));
+    }
+
+    void pantallaDeFlexionCabeEnLaVentanaPrincipal()
+    {
+        MdiPrincipal& w = Arranca();
+        w.show();
+        for (auto orden : {&MdiPrincipal::NuevaFlexion, &MdiPrincipal::NuevaFlexionT}) {
+            (w.*orden)();
+            QMdiSubWindow* ventana = w.Area()->subWindowList().constLast();
+            QVERIFY2(w.Area()->viewport()->rect().contains(ventana->geometry()),
+                     qPrintable(QStringLiteral("%1x%2 en %3x%4")
+                                    .arg(ventana->width())
+                                    .arg(ventana->height())
+                                    .arg(w.Area()->viewport()->width())
+                                    .arg(w.Area()->viewport()->height())));
+        }
+    }
+
     void unCambioDeGcSePierdeConLaSiguienteOrdenNueva()
     {
         MdiPrincipal& w = Arranca();
