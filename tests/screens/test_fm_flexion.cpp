@@ -1,5 +1,6 @@
 #include "engine/Calculos.h"
 #include "platform/dobles/PlataformaDoble.h"
+#include "screens/Entrada.h"
 #include "screens/FmFlexion.h"
 #include "screens/RejillaResultados.h"
 #include "shell/Aplicacion.h"
@@ -631,6 +632,79 @@ private slots:
         QCOMPARE(C("CM_CALCULAR")->toolTip(), QStringLiteral("Calcula flexión"));
         QCOMPARE(C("TX_MRB")->toolTip(),
                  QStringLiteral("Momento que hace que el diagrama de rotura pase por los pivotes R y B"));
+    }
+
+    void cadaCampoConSusMensajesYSuReinicio_data()
+    {
+        QTest::addColumn<bool>("seccionT");
+        QTest::addColumn<QString>("control");
+        QTest::addColumn<QString>("vacio");
+        QTest::addColumn<QString>("noNumero");
+        QTest::addColumn<double>("reinicio");
+        const auto fila = [](bool t, const char* control, const char* vacio, const char* noNumero, double reinicio) {
+            QTest::newRow(qPrintable(QString::fromLatin1(control) + (t ? QStringLiteral(" T") : QString())))
+                << t << QString::fromLatin1(control) << QString::fromUtf8(vacio) << QString::fromUtf8(noNumero)
+                << reinicio;
+        };
+        for (bool t : {false, true}) {
+            fila(t, "TX_ANCHO", "Debe darse el ancho de la sección.", "El ancho de la sección debe ser un número.", 0.4);
+            fila(t, "TX_CANTO", "Debe darse el canto de la sección.", "El canto de la sección debe ser un número.", 0.6);
+            fila(t, "TX_RECUB", "Debe darse el recubrimiento de la sección.",
+                 "El recubrimiento de la sección debe ser un número.", 0.05);
+            fila(t, "TX_ASI", "Debe darse la armadura inferior de la sección.",
+                 "La armadura inferior de la sección debe ser un número.", 10.0);
+            fila(t, "TX_ASS", "Debe darse la armadura superior de la sección.",
+                 "La armadura superior de la sección debe ser un número.", 10.0);
+            fila(t, "TX_MCP", "Debe darse el momento que actúa en la sección cuando se va a colocar el refuerzo.",
+                 "El momento que actúa en la sección cuando se va a colocar el refuerzo debe ser un número.", 0.0);
+            fila(t, "TX_MD", "Debe darse el momento de cálculo.", "El momento de cálculo debe ser un número.", 0.0);
+            fila(t, "CO_FCK", "Debe darse la resistencia del hormigón de la sección.",
+                 "La resistencia del hormigón de la sección debe ser un número.", 25.0);
+            fila(t, "CO_FYK", "Debe darse la resistencia del acero de las armaduras de la sección.",
+                 "La resistencia del acero de las armaduras de la sección debe ser un número.", 500.0);
+            fila(t, "CO_ANCHOR", "Debe darse el ancho del refuerzo a disponer en la sección.",
+                 "El ancho del refuerzo a disponer en la sección debe ser un número.", 0.125);
+        }
+        fila(true, "TX_ANCHOALMA", "Debe darse el ancho del alma de la sección.",
+             "El ancho del alma de la sección debe ser un número.", 0.2);
+        fila(true, "TX_CANTOALA", "Debe darse el canto del ala de la sección.",
+             "El canto del ala de la sección debe ser un número.", 0.2);
+    }
+
+    void cadaCampoConSusMensajesYSuReinicio()
+    {
+        QFETCH(bool, seccionT);
+        QFETCH(QString, control);
+        QFETCH(QString, vacio);
+        QFETCH(QString, noNumero);
+        QFETCH(double, reinicio);
+        Abre(seccionT);
+        const QByteArray nombre = control.toLatin1();
+        C(nombre.constData())->setFocus();
+        QTRY_VERIFY(C(nombre.constData())->hasFocus());
+        Estado().F_MODIFICADO = false;
+        Estado().F_CALCULADO = true;
+        for (const QString& texto : {QString(), QStringLiteral("12a"), QStringLiteral("   ")}) {
+            // A state value away from the reset shows that the failure writes the reset.
+            double General::*campo = nullptr;
+            for (const auto& [n, c] : std::initializer_list<std::pair<const char*, double General::*>>{
+                     {"TX_ANCHO", &General::ANCHO}, {"TX_CANTO", &General::CANTO}, {"TX_RECUB", &General::RECUB},
+                     {"TX_ASI", &General::ASI}, {"TX_ASS", &General::ASS}, {"TX_MCP", &General::MCP},
+                     {"TX_MD", &General::MD}, {"CO_FCK", &General::FCK}, {"CO_FYK", &General::FYK},
+                     {"CO_ANCHOR", &General::ANCHOR}, {"TX_ANCHOALMA", &General::ANCHOALMA},
+                     {"TX_CANTOALA", &General::CANTOALA}})
+                if (control == QLatin1String(n)) campo = c;
+            Estado().*campo = 0.123;
+            doble_->mensajes.mostrados.clear();
+            Escribe(nombre.constData(), texto);
+            QCOMPARE(Mensajes(), QStringList{texto.isEmpty() ? vacio : noNumero});
+            QCOMPARE(Estado().*campo, reinicio);
+            QVERIFY(C(nombre.constData())->hasFocus());
+            QCOMPARE(TextoDe(C(nombre.constData())), texto);
+        }
+        // A failure touches neither the flags nor the buttons.
+        QVERIFY(!Estado().F_MODIFICADO);
+        QVERIFY(Estado().F_CALCULADO);
     }
 
     void deUnExtremoAOtroComoUnUsuario()

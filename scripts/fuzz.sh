@@ -1,0 +1,15 @@
+#!/usr/bin/env bash
+# Builds the libFuzzer target of the project file readers and the calculation with clang, and
+# runs it for the given number of seconds (300 by default) on a copy of the corpus. New inputs
+# stay in build-fuzz/corpus; merge the useful ones into tests/fuzz/corpus by hand.
+set -euo pipefail
+cd "$(dirname "$0")/.."
+source scripts/comun.sh
+
+instala_dependencias clang libclang-rt-14-dev
+segundos=${1:-300}
+CXX=clang++ construye build-fuzz RelWithDebInfo -DTEXALON_FUZZ=ON
+mkdir -p build-fuzz/corpus
+cp -n tests/fuzz/corpus/* build-fuzz/corpus/
+build-fuzz/tests/fuzz/fuzz_lectores build-fuzz/corpus -dict=tests/fuzz/lectores.dict -max_len=512 -timeout=10 \
+  -max_total_time="$segundos" -print_final_stats=1
