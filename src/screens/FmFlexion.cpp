@@ -409,21 +409,10 @@ void FmFlexion::ActivaResultados(bool activos)
 
 void FmFlexion::LeeCampos(General& g) const
 {
-    const auto valor = [this](const char* nombre) { return ValorRegional(TextoDe(Control(QString::fromLatin1(nombre)))); };
-    g.ANCHO = valor("TX_ANCHO");
-    g.CANTO = valor("TX_CANTO");
-    if (seccionT_) {
-        g.ANCHOALMA = valor("TX_ANCHOALMA");
-        g.CANTOALA = valor("TX_CANTOALA");
-    }
-    g.RECUB = valor("TX_RECUB");
-    g.ASI = valor("TX_ASI");
-    g.ASS = valor("TX_ASS");
-    g.FCK = valor("CO_FCK");
-    g.FYK = valor("CO_FYK");
-    g.ANCHOR = valor("CO_ANCHOR");
-    g.MCP = valor("TX_MCP");
-    g.MD = valor("TX_MD");
+    // Straight into the state with the regional conversion, with no test: every field's text has
+    // been through its own test when the focus left it.
+    for (const ReglaCampo& regla : ReglasFlexion(seccionT_))
+        g.*regla.campo = ValorRegional(TextoDe(Control(Texto(regla.control))));
 }
 
 void FmFlexion::Calcular()
@@ -537,14 +526,10 @@ void FmFlexion::closeEvent(QCloseEvent* evento)
     evento->accept();
 }
 
-void FmFlexion::GrabaAlCerrar()
+TextosFlexion FmFlexion::Textos() const
 {
-    if (plataforma::MsgBox(QStringLiteral("Los datos no se han grabado, ¿desea grabar los datos?"),
-                           plataforma::Estilo::PreguntaSiNo) != plataforma::Respuesta::Si)
-        return;
-    General& g = Estado();
-    TextosFlexion textos;
     const auto texto = [this](const char* nombre) { return TextoDe(Control(QString::fromLatin1(nombre))).toStdString(); };
+    TextosFlexion textos;
     textos.ANCHO = texto("TX_ANCHO");
     textos.CANTO = texto("TX_CANTO");
     if (seccionT_) {
@@ -559,10 +544,25 @@ void FmFlexion::GrabaAlCerrar()
     textos.ANCHOR = texto("CO_ANCHOR");
     textos.MCP = texto("TX_MCP");
     textos.MD = texto("TX_MD");
+    return textos;
+}
+
+void FmFlexion::CopiaAlEstado()
+{
     if (seccionT_)
-        CopiaFlexionT(g, textos);
+        CopiaFlexionT(Estado(), Textos());
     else
-        CopiaFlexion(g, textos);
+        CopiaFlexion(Estado(), Textos());
+}
+
+void FmFlexion::GrabaAlCerrar()
+{
+    if (plataforma::MsgBox(QStringLiteral("Los datos no se han grabado, ¿desea grabar los datos?"),
+                           plataforma::Estilo::PreguntaSiNo) != plataforma::Respuesta::Si)
+        return;
+    General& g = Estado();
+    // F_ERROR is the caller's to clear: a True left by an earlier command reports a failure.
+    CopiaAlEstado();
     if (g.F_ERROR) {
         plataforma::MsgBox(QStringLiteral("Los datos introducidos no son correctos."), plataforma::Estilo::Parada);
         return;

@@ -4,6 +4,7 @@
 // the widths and depths, and the T procedures of the engine. One class serves both.
 #pragma once
 
+#include "files/Copias.h"
 #include "screens/ReglasCampo.h"
 
 #include <QWidget>
@@ -33,6 +34,9 @@ public:
     void Calcular();
     // Shows the results of one cell of the grid in the results panel.
     void ResultadosFlexion(int tipo, int capas);
+    // CopiaFlexion or CopiaFlexionT on the texts of the fields: all tested at once, in silence,
+    // the verdict in F_ERROR.
+    void CopiaAlEstado();
 
 signals:
     // The screen has gone through its unload; the main window greys its commands.
@@ -59,6 +63,7 @@ private:
     void Coeficientes();
     void Anclaje();
     void GrabaAlCerrar();
+    TextosFlexion Textos() const;
 
     bool seccionT_;
     std::map<QString, QWidget*> controles_;

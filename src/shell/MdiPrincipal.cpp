@@ -154,6 +154,10 @@ void MdiPrincipal::Carga()
     }
 
     presentacion_ = new FmPresentacion(this);
+    // When the splash goes, the main window takes the keyboard back.
+    connect(presentacion_, &QObject::destroyed, this, [this] {
+        if (isVisible()) activateWindow();
+    });
     presentacion_->show();
 
     ValoresIniciales(g);
@@ -332,7 +336,14 @@ void MdiPrincipal::Caracteristicas()
 
 void MdiPrincipal::AcercaDe()
 {
-    Estado().F_ERROR = false;
+    General& g = Estado();
+    g.F_ERROR = false;
+    // A real copy: a text typed and not yet checked reaches the state, and fields that do not
+    // pass keep the box from opening, without a word.
+    for (Pantalla pantalla : {Pantalla::Flexion, Pantalla::FlexionT})
+        if ((pantalla == Pantalla::Flexion ? g.F_FLEXION : g.F_FLEXIONT) && Ventana(pantalla) != nullptr)
+            if (auto* flexion = qobject_cast<FmFlexion*>(Ventana(pantalla)->widget())) flexion->CopiaAlEstado();
+    if (g.F_ERROR) return;
     FmAcercaDe caja(this);
     plataforma::ServicioVentanas().MuestraModal(caja);
 }

@@ -66,6 +66,16 @@ class PruebaFlexion : public QObject {
         QTest::keyClick(control, Qt::Key_Tab);
     }
 
+    // Types a text into a field and leaves it for a button, which has no test of its own.
+    void EscribeYSal(const char* nombre, const QString& texto)
+    {
+        QWidget* control = C(nombre);
+        control->setFocus();
+        QTRY_VERIFY(control->hasFocus());
+        EscribeTexto(control, texto);
+        C("CM_CALCULAR")->setFocus();
+    }
+
     QStringList Mensajes() const
     {
         QStringList lista;
@@ -526,6 +536,74 @@ private slots:
         QCOMPARE(Mensajes(), QStringList({QStringLiteral("Los datos no se han grabado, ¿desea grabar los datos?"),
                                           QStringLiteral("Los datos introducidos no son correctos.")}));
         QVERIFY(doble_->ficheros.guardados.empty());
+    }
+
+    void errorDejadoPorOtraOrdenRechazaDatosBuenosAlCerrar()
+    {
+        Abre();
+        Estado().F_ERROR = true;
+        doble_->mensajes.respuestas = {Respuesta::Si};
+        pantalla_->close();
+        QCOMPARE(Mensajes(), QStringList({QStringLiteral("Los datos no se han grabado, ¿desea grabar los datos?"),
+                                          QStringLiteral("Los datos introducidos no son correctos.")}));
+        QVERIFY(doble_->ficheros.guardados.empty());
+    }
+
+    void siEnUnProyectoConNombreOfreceIgualmenteFlexionVmf()
+    {
+        Estado() = General{};
+        ValoresIniciales(Estado());
+        Estado().F_ABIERTO = true;
+        Estado().F_MODIFICADO = true;
+        Estado().FICHERO = "/tmp/viga_de_prueba.vmf";
+        doble_ = std::make_unique<PlataformaDoble>();
+        pantalla_ = new FmFlexion(true);
+        doble_->mensajes.respuestas = {Respuesta::Si};
+        pantalla_->close();
+        QCOMPARE(doble_->ficheros.guardados.size(), std::size_t{1});
+        QCOMPARE(doble_->ficheros.guardados[0].nombre, QStringLiteral("flexion.vmf"));
+        QCOMPARE(Estado().FICHERO, std::string("/tmp/viga_de_prueba.vmf"));
+    }
+
+    void limitesInferioresDeCadaCampo_data()
+    {
+        QTest::addColumn<bool>("seccionT");
+        QTest::addColumn<QString>("control");
+        QTest::addColumn<QString>("mensaje");
+        const auto fila = [](bool t, const char* control, const char* mensaje) {
+            QTest::newRow(qPrintable(QString::fromLatin1(control) + (t ? QStringLiteral(" T") : QString())))
+                << t << QString::fromLatin1(control) << QString::fromUtf8(mensaje);
+        };
+        for (bool t : {false, true}) {
+            fila(t, "TX_ANCHO", "El ancho de la sección debe ser un número mayor que cero.");
+            fila(t, "TX_CANTO", "El canto de la sección debe ser un número mayor que cero.");
+            fila(t, "TX_RECUB", "El recubrimiento de la sección debe ser mayor que cero.");
+            fila(t, "TX_ASI", "La armadura inferior de la sección debe ser mayor que cero.");
+            fila(t, "CO_ANCHOR", "El ancho del refuerzo a disponer en la sección debe ser mayor que cero.");
+        }
+        fila(true, "TX_ANCHOALMA", "El ancho del alma de la sección debe ser un número mayor que cero.");
+        fila(true, "TX_CANTOALA", "El canto del ala de la sección debe ser un número mayor que cero.");
+    }
+
+    void limitesInferioresDeCadaCampo()
+    {
+        QFETCH(bool, seccionT);
+        QFETCH(QString, control);
+        QFETCH(QString, mensaje);
+        Abre(seccionT);
+        // Small partners, so that no test against another field gets in the way.
+        Estado().ANCHOR = 0.01;
+        Estado().CANTOALA = 0.01;
+        const QByteArray nombre = control.toLatin1();
+        EscribeYSal(nombre.constData(), QStringLiteral("0,009"));
+        QCOMPARE(Mensajes(), QStringList{mensaje});
+        doble_->mensajes.mostrados.clear();
+        EscribeYSal(nombre.constData(), QStringLiteral("0,01"));
+        QVERIFY2(Mensajes().isEmpty(), qPrintable(Mensajes().join(QLatin1Char('|'))));
+        QCOMPARE(TextoDe(C(nombre.constData())), control.startsWith(QLatin1String("TX_AS")) ? QStringLiteral("0,01")
+                                                                                            : QStringLiteral("0,010"));
+        EscribeYSal(nombre.constData(), QStringLiteral("0,011"));
+        QVERIFY(Mensajes().isEmpty());
     }
 
     void cancelarElDialogoCierraSinDecirNada()

@@ -7,6 +7,7 @@
 #include <QDialog>
 #include <QLabel>
 #include <QLineEdit>
+#include <QDialog>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QMenu>
@@ -634,6 +635,24 @@ private slots:
         QVERIFY(!Estado().F_ERROR);
         w.TB_BARRA_ButtonClick(QStringLiteral("Info"));
         QCOMPARE(doble_->ventanas.mostradas.size(), 2);
+    }
+
+    void acercaDeCopiaLaPantallaYNoSeAbreConDatosMalos()
+    {
+        MdiPrincipal& w = Arranca();
+        w.NuevaFlexion();
+        QMdiSubWindow* ventana = w.Area()->subWindowList().constFirst();
+        auto* md = ventana->widget()->findChild<QLineEdit*>(QStringLiteral("TX_MD"));
+        // A text typed and never checked reaches the state.
+        md->setText(QStringLiteral("123"));
+        w.AcercaDe();
+        QCOMPARE(Estado().MD, 123.0);
+        QCOMPARE(doble_->ventanas.mostradas.size(), 1);
+        md->setText(QStringLiteral("abc"));
+        w.AcercaDe();
+        QVERIFY(Estado().F_ERROR);
+        QCOMPARE(doble_->ventanas.mostradas.size(), 1);
+        QVERIFY(doble_->mensajes.mostrados.empty());
     }
 
     void cerrarLaVentanaPrincipalCierraAntesLaPantalla()
