@@ -1,5 +1,7 @@
 #include "files/Copias.h"
 
+#include "files/Comprobaciones.h"
+
 #include "state/Decimales.h"
 
 #include <array>
@@ -13,13 +15,6 @@ namespace {
 
 // The list index of the rectangular entry of CO_SECCION.
 constexpr int kIndiceRectangular = 2;
-
-// Ranges that the screens accept, both ends included.
-constexpr double kFckMinimo = 15.0;
-constexpr double kFckMaximo = 50.0;
-constexpr double kFykMinimo = 300.0;
-constexpr double kFykMaximo = 600.0;
-constexpr double kIncrMinimo = 1.0;
 
 enum class Seccion { kRectangular, kT };
 
@@ -77,33 +72,11 @@ private:
     std::size_t cuantos_ = 0;
 };
 
-bool EnIntervalo(double valor, double minimo, double maximo)
-{
-    return valor >= minimo && valor <= maximo;
-}
-
 // ---------------------------------------------------------------------------------------------
 // Flexure.
 
-// The values of a flexure screen, without their signs. The rectangular screen leaves the web
-// width and the flange depth unread.
-struct ValoresFlexion {
-    double ANCHO = 0.0;
-    double CANTO = 0.0;
-    double ANCHOALMA = 0.0;
-    double CANTOALA = 0.0;
-    double RECUB = 0.0;
-    double ASI = 0.0;
-    double ASS = 0.0;
-    double FCK = 0.0;
-    double FYK = 0.0;
-    double ANCHOR = 0.0;
-    double MCP = 0.0;
-    double MD = 0.0;
-};
-
 // The fields of the screen of that section kind.
-Campos CamposFlexion(const TextosFlexion& t, ValoresFlexion& v, Seccion seccion)
+Campos CamposFlexion(const TextosFlexion& t, DatosFlexion& v, Seccion seccion)
 {
     Campos campos;
     campos.Anade(t.ANCHO, v.ANCHO);
@@ -123,22 +96,8 @@ Campos CamposFlexion(const TextosFlexion& t, ValoresFlexion& v, Seccion seccion)
     return campos;
 }
 
-bool CompruebaFlexion(const ValoresFlexion& v, Seccion seccion)
-{
-    const bool es_t = seccion == Seccion::kT;
-    // The sheet lies under the web of a T section and under the whole width of a rectangle.
-    if (v.ANCHOR > (es_t ? v.ANCHOALMA : v.ANCHO)) return false;
-    if (v.ANCHO == 0.0 || v.CANTO == 0.0) return false;
-    if (es_t && (v.ANCHOALMA == 0.0 || v.CANTOALA == 0.0)) return false;
-    if (v.RECUB == 0.0 || v.ASI == 0.0 || v.ANCHOR == 0.0) return false;
-    if (es_t && v.CANTOALA > v.CANTO) return false;
-    if (!EnIntervalo(v.FCK, kFckMinimo, kFckMaximo)) return false;
-    if (!EnIntervalo(v.FYK, kFykMinimo, kFykMaximo)) return false;
-    return v.CANTO / 2.0 >= v.RECUB;
-}
-
 // The coefficients are not among the values: they belong to the coefficient dialog.
-void GuardaFlexion(General& g, const ValoresFlexion& v, Seccion seccion)
+void GuardaFlexion(General& g, const DatosFlexion& v, Seccion seccion)
 {
     g.ANCHO = v.ANCHO;
     g.CANTO = v.CANTO;
@@ -158,8 +117,8 @@ void GuardaFlexion(General& g, const ValoresFlexion& v, Seccion seccion)
 
 void CopiaFlexionDe(General& g, const TextosFlexion& campos, Seccion seccion)
 {
-    ValoresFlexion v;
-    if (!CamposFlexion(campos, v, seccion).Lee() || !CompruebaFlexion(v, seccion)) {
+    DatosFlexion v;
+    if (!CamposFlexion(campos, v, seccion).Lee() || !FlexionValida(v, seccion == Seccion::kT)) {
         g.F_ERROR = true;
         return;
     }
@@ -168,24 +127,6 @@ void CopiaFlexionDe(General& g, const TextosFlexion& campos, Seccion seccion)
 
 // ---------------------------------------------------------------------------------------------
 // Confinement.
-
-struct ValoresConfina {
-    double DIAM = 0.0;
-    double LADOMENOR = 0.0;
-    double FCK = 0.0;
-    double NCP = 0.0;
-    double INCR = 0.0;
-};
-
-bool CompruebaConfina(const ValoresConfina& v, int indice_seccion)
-{
-    // The long side of a rectangle is the one given first.
-    if (indice_seccion == kIndiceRectangular && v.DIAM < v.LADOMENOR) return false;
-    // The smaller side is kept for every shape, and must be there for every shape.
-    if (v.DIAM == 0.0 || v.LADOMENOR == 0.0) return false;
-    if (!EnIntervalo(v.FCK, kFckMinimo, kFckMaximo)) return false;
-    return v.INCR >= kIncrMinimo;
-}
 
 }  // namespace
 
@@ -201,14 +142,14 @@ void CopiaFlexionT(General& g, const TextosFlexion& campos)
 
 void CopiaConfina(General& g, const TextosConfina& campos, int indice_seccion)
 {
-    ValoresConfina v;
+    DatosConfina v;
     Campos leidos;
     leidos.Anade(campos.DIAM, v.DIAM);
     leidos.Anade(campos.LADOMENOR, v.LADOMENOR);
     leidos.Anade(campos.FCK, v.FCK);
     leidos.Anade(campos.NCP, v.NCP);
     leidos.Anade(campos.INCR, v.INCR);
-    if (!leidos.Lee() || !CompruebaConfina(v, indice_seccion)) {
+    if (!leidos.Lee() || !ConfinaValida(v, indice_seccion == kIndiceRectangular)) {
         g.F_ERROR = true;
         return;
     }

@@ -1,5 +1,7 @@
 #include "files/Ficheros.h"
 
+#include "files/Comprobaciones.h"
+
 #include "state/Decimales.h"
 #include "state/ErrorEjecucion.h"
 
@@ -23,13 +25,6 @@ constexpr Entero kSeccionT = 2;
 // Section kinds of line 1 of a confinement file.
 constexpr Entero kCircular = 1;
 constexpr Entero kRectangularConfinada = 3;
-
-// Ranges that the readers accept, both ends included.
-constexpr double kFckMinimo = 15.0;
-constexpr double kFckMaximo = 50.0;
-constexpr double kFykMinimo = 300.0;
-constexpr double kFykMaximo = 600.0;
-constexpr double kIncrMinimo = 1.0;
 
 // Every line of a project file ends so, on any machine.
 constexpr std::string_view kFinDeLinea = "\r\n";
@@ -252,33 +247,8 @@ bool BajoTrampaDeErrores(General& g, const Aviso& aviso, Parte&& parte)
     return false;
 }
 
-bool EnIntervalo(double valor, double minimo, double maximo)
-{
-    return valor >= minimo && valor <= maximo;
-}
-
 // ---------------------------------------------------------------------------------------------
 // Flexure file.
-
-// The values of a flexure file, as read, signs included. A rectangular file has no web width
-// and no flange depth.
-struct DatosFlexion {
-    double ANCHO = 0.0;
-    double CANTO = 0.0;
-    double ANCHOALMA = 0.0;
-    double CANTOALA = 0.0;
-    double RECUB = 0.0;
-    double ASI = 0.0;
-    double ASS = 0.0;
-    double FCK = 0.0;
-    double FYK = 0.0;
-    double GC = 0.0;
-    double GS = 0.0;
-    double GR = 0.0;
-    double ANCHOR = 0.0;
-    double MCP = 0.0;
-    double MD = 0.0;
-};
 
 // Any kind other than T is read as a rectangular file; the checks refuse the unknown ones.
 DatosFlexion LeeDatosFlexion(LectorValores& lector, Entero tipo)
@@ -308,17 +278,8 @@ DatosFlexion LeeDatosFlexion(LectorValores& lector, Entero tipo)
 // positive values afterwards, which the screens would not allow; that is intended.
 bool CompruebaFlexion(const DatosFlexion& d, Entero tipo)
 {
-    const bool es_t = tipo == kSeccionT;
-    if (tipo != kRectangular && !es_t) return false;
-    // The sheet lies under the web of a T section and under the whole width of a rectangle.
-    if (d.ANCHOR > (es_t ? d.ANCHOALMA : d.ANCHO)) return false;
-    if (d.ANCHO == 0.0 || d.CANTO == 0.0) return false;
-    if (es_t && (d.ANCHOALMA == 0.0 || d.CANTOALA == 0.0)) return false;
-    if (d.RECUB == 0.0 || d.ASI == 0.0 || d.ANCHOR == 0.0) return false;
-    if (es_t && d.CANTOALA > d.CANTO) return false;
-    if (!EnIntervalo(d.FCK, kFckMinimo, kFckMaximo)) return false;
-    if (!EnIntervalo(d.FYK, kFykMinimo, kFykMaximo)) return false;
-    return d.CANTO / 2.0 >= d.RECUB;
+    if (tipo != kRectangular && tipo != kSeccionT) return false;
+    return FlexionValida(d, tipo == kSeccionT);
 }
 
 // A rectangular file leaves the web width and flange depth of the state as they were.
@@ -361,19 +322,6 @@ std::string TextoFlexion(const General& g, Entero tipo)
 // ---------------------------------------------------------------------------------------------
 // Confinement file.
 
-// The values of a confinement file, as read, signs included.
-struct DatosConfina {
-    Entero SECCION = 0;
-    double DIAM = 0.0;
-    double LADOMENOR = 0.0;
-    double FCK = 0.0;
-    double GC = 0.0;
-    double GS = 0.0;
-    double GR = 0.0;
-    double NCP = 0.0;
-    double INCR = 0.0;
-};
-
 DatosConfina LeeDatosConfina(LectorValores& lector)
 {
     DatosConfina d;
@@ -392,11 +340,7 @@ DatosConfina LeeDatosConfina(LectorValores& lector)
 bool CompruebaConfina(const DatosConfina& d)
 {
     if (d.SECCION < kCircular || d.SECCION > kRectangularConfinada) return false;
-    // The smaller side is kept for every shape, and must be there for every shape.
-    if (d.DIAM == 0.0 || d.LADOMENOR == 0.0) return false;
-    if (d.SECCION == kRectangularConfinada && d.LADOMENOR > d.DIAM) return false;
-    if (!EnIntervalo(d.FCK, kFckMinimo, kFckMaximo)) return false;
-    return d.INCR >= kIncrMinimo;
+    return ConfinaValida(d, d.SECCION == kRectangularConfinada);
 }
 
 void GuardaConfina(General& g, const DatosConfina& d)
