@@ -8,6 +8,7 @@
 #include "state/General.h"
 
 #include <QComboBox>
+#include <QDialog>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -783,6 +784,77 @@ private slots:
         // A failure touches neither the flags nor the buttons.
         QVERIFY(!Estado().F_MODIFICADO);
         QVERIFY(Estado().F_CALCULADO);
+    }
+
+    void elegirUnaFilaDeLaListaNoEjecutaNada()
+    {
+        Abre();
+        QComboBox* fck = Lista("CO_FCK");
+        fck->setFocus();
+        QTRY_VERIFY(fck->hasFocus());
+        Estado().F_MODIFICADO = false;
+        fck->setCurrentIndex(3);
+        QCOMPARE(Estado().FCK, 25.0);
+        QVERIFY(!Estado().F_MODIFICADO);
+        QTest::keyClick(fck, Qt::Key_Tab);
+        QCOMPARE(Estado().FCK, 40.0);
+        QVERIFY(Estado().F_MODIFICADO);
+    }
+
+    void elFocoQueTomaLaCajaDeMensajeNoEmpiezaOtraComprobacion()
+    {
+        Abre();
+        // The box of the refusal comes up as a window of its own and takes the focus.
+        doble_->mensajes.alMostrar = [](const MensajeMostrado&) {
+            QDialog caja(QApplication::activeWindow());
+            caja.show();
+            caja.activateWindow();
+            if (!QTest::qWaitForWindowActive(&caja)) qWarning("la caja no se ha activado");
+            caja.close();
+            if (!QTest::qWaitForWindowActive(caja.parentWidget())) qWarning("la pantalla no ha vuelto");
+        };
+        // The next field is wrong too: a second check would show its message as well.
+        Campo("TX_RECUB")->setText(QStringLiteral("xyz"));
+        Escribe("TX_CANTO", QStringLiteral("abc"));
+        QCOMPARE(Mensajes(), QStringList{QStringLiteral("El canto de la sección debe ser un número.")});
+        QTRY_VERIFY(Campo("TX_CANTO")->hasFocus());
+    }
+
+    void resistenciasExactamenteEnSusLimitesPasan()
+    {
+        Abre();
+        for (const char* fck : {"15", "50"}) {
+            EscribeYSal("CO_FCK", QString::fromLatin1(fck));
+            QCOMPARE(Estado().FCK, QString::fromLatin1(fck).toDouble());
+        }
+        for (const char* fyk : {"300", "600"}) {
+            EscribeYSal("CO_FYK", QString::fromLatin1(fyk));
+            QCOMPARE(Estado().FYK, QString::fromLatin1(fyk).toDouble());
+        }
+        QVERIFY(Mensajes().isEmpty());
+    }
+
+    void pruebaBlandaNoTocaLosBotones()
+    {
+        Abre();
+        Calcula();
+        QVERIFY(BotonesResultado(true));
+        Escribe("TX_ANCHO", QStringLiteral("0,1"));
+        QCOMPARE(Mensajes().size(), 1);
+        QVERIFY(BotonesResultado(true));
+        QVERIFY(!Estado().F_CALCULADO);
+        QVERIFY(Estado().F_MODIFICADO);
+    }
+
+    void deformacionesDeLaCeldaEnSusFormatos()
+    {
+        Abre();
+        Calcula();
+        QCOMPARE(Campo("TX_EPSC")->text(), QStringLiteral("1,99"));
+        QCOMPARE(Campo("TX_EPSSI")->text(), QStringLiteral("8,67"));
+        QCOMPARE(Campo("TX_EPSSS")->text(), QStringLiteral("1,02"));
+        QVERIFY(Estado().EPSSS(1, 1) > 0.0);
+        QCOMPARE(Estado().EPSRSEL, Estado().EPSR(1, 1));
     }
 
     void deUnExtremoAOtroComoUnUsuario()
