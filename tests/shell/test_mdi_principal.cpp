@@ -515,6 +515,22 @@ private slots:
         QCOMPARE(w.Area()->subWindowList().at(0)->widget()->objectName(), QStringLiteral("FM_FLEXIONT"));
     }
 
+    void unaPantallaDeFlexionActivaGuardarEImprimirYSuCierreLosApaga()
+    {
+        MdiPrincipal& w = Arranca();
+        w.show();
+        w.NuevaFlexion();
+        QTRY_VERIFY(w.ElementoMenu(QStringLiteral("mnuPrincipalGuardar"))->isEnabled());
+        QVERIFY(w.ElementoMenu(QStringLiteral("mnuPrincipalGuardarcomo"))->isEnabled());
+        QVERIFY(w.ElementoMenu(QStringLiteral("mnuPrincipalImprimir"))->isEnabled());
+        QVERIFY(w.Boton(3)->isEnabled() && w.Boton(4)->isEnabled());
+        w.CierraPantallaAbierta();
+        QVERIFY(!w.ElementoMenu(QStringLiteral("mnuPrincipalGuardar"))->isEnabled());
+        QVERIFY(!w.ElementoMenu(QStringLiteral("mnuPrincipalImprimir"))->isEnabled());
+        QVERIFY(!w.Boton(3)->isEnabled() && !w.Boton(4)->isEnabled());
+        QVERIFY(!Estado().F_FLEXION);
+    }
+
     void pantallaDeFlexionCabeEnLaVentanaPrincipal()
     {
         MdiPrincipal& w = Arranca();
