@@ -113,6 +113,19 @@ Servicios Instala(const Servicios& servicios);
 // Shorthand for the message box of the program.
 inline Respuesta MsgBox(const QString& texto, Estilo estilo) { return ServicioMensajes().Muestra(texto, estilo); }
 
+// Runs an event handler of the program. A run-time error that it raises ends here, as the
+// classic runtime ended it: the error's message, then the end of the process. Qt's own code,
+// which calls the handler, never sees the exception go through it.
+template <typename Manejador>
+void AtrapaErrorFatal(Manejador manejador)
+{
+    try {
+        manejador();
+    } catch (const ErrorEjecucion& error) {
+        ServicioProceso().ErrorFatal(error);
+    }
+}
+
 // A number in one of the program's formats ("0", "0.00"...) with the machine's decimal
 // separator, as the screens and reports show numbers.
 QString FormatoLocal(double valor, std::string_view patron);

@@ -174,7 +174,7 @@ FmCoef::FmCoef(QWidget* padre) : QDialog(padre)
     // is not checked and opening and cancelling at once leaves the project as it was. Tab
     // still reaches the button, and leaving a field by Tab checks it as ever.
     cmCancelar_->setFocusPolicy(Qt::TabFocus);
-    connect(cmAceptar_, &QPushButton::clicked, this, &FmCoef::Aceptar);
+    connect(cmAceptar_, &QPushButton::clicked, this, [this] { plataforma::AtrapaErrorFatal([this] { Aceptar(); }); });
     connect(cmCancelar_, &QPushButton::clicked, this, &QDialog::reject);
     connect(cmRestaurar_, &QPushButton::clicked, this, &FmCoef::Restablecer);
 

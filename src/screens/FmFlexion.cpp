@@ -333,11 +333,11 @@ QWidget* FmFlexion::CreaBotones()
     }
     auto* calcular = qobject_cast<QPushButton*>(controles_[QStringLiteral("CM_CALCULAR")]);
     connect(calcular, &QPushButton::clicked, this, [this, calcular] {
-        if (BotonConFoco(calcular)) Calcular();
+        if (BotonConFoco(calcular)) plataforma::AtrapaErrorFatal([this] { Calcular(); });
     });
     auto* anclaje = qobject_cast<QPushButton*>(controles_[QStringLiteral("CM_ANCLAJE")]);
     connect(anclaje, &QPushButton::clicked, this, [this, anclaje] {
-        if (BotonConFoco(anclaje)) Anclaje();
+        if (BotonConFoco(anclaje)) plataforma::AtrapaErrorFatal([this] { Anclaje(); });
     });
     return columna;
 }

@@ -129,6 +129,14 @@ MdiPrincipal::MdiPrincipal(QWidget* padre) : QMainWindow(padre)
     Carga();
 }
 
+MdiPrincipal::~MdiPrincipal()
+{
+    area_->disconnect(this);
+    if (presentacion_) presentacion_->disconnect(this);
+    for (QMdiSubWindow* ventana : area_->subWindowList())
+        if (ventana->widget() != nullptr) ventana->widget()->disconnect(this);
+}
+
 void MdiPrincipal::Carga()
 {
     General& g = Estado();

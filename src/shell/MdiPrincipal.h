@@ -28,6 +28,8 @@ public:
     // Creates the window and runs its load: the flags, the resolution test, the splash and the
     // start values of the project. A screen too small ends the process there.
     explicit MdiPrincipal(QWidget* padre = nullptr);
+    // The child windows go with the main window; their signals must not reach it on the way.
+    ~MdiPrincipal() override;
 
     // False when the load ended the process because the screen is too small.
     bool Cargada() const { return cargada_; }

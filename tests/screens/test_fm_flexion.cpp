@@ -857,6 +857,19 @@ private slots:
         QCOMPARE(Estado().EPSRSEL, Estado().EPSR(1, 1));
     }
 
+    void divisionPorCeroAlCalcularEsErrorFatal()
+    {
+        Abre();
+        // A coefficient of 0 can come from a file: the calculation divides by it.
+        Estado().GC = 0.0;
+        Calcula();
+        QCOMPARE(doble_->proceso.erroresFatales.size(), std::size_t{1});
+        QCOMPARE(doble_->proceso.erroresFatales[0].texto,
+                 QStringLiteral("Se ha producido el error '11' en tiempo de ejecución:\r\rDivisión por cero"));
+        QCOMPARE(doble_->proceso.terminaciones, std::vector<int>{1});
+        Estado().GC = 1.5;
+    }
+
     void deUnExtremoAOtroComoUnUsuario()
     {
         Abre();
