@@ -157,6 +157,7 @@ QWidget* FmFlexion::CreaDatos()
     filas->setVerticalSpacing(2);
     filas->setHorizontalSpacing(4);
     int fila = 0;
+    int filaFck = 0;
     const auto& reglas = ReglasFlexion(seccionT_);
     for (std::size_t i = 0; i < reglas.size(); ++i) {
         const ReglaCampo& regla = reglas[i];
@@ -189,6 +190,7 @@ QWidget* FmFlexion::CreaDatos()
         QString etiqueta = QString::fromUtf8(RotuloDe(regla.control).etiqueta);
         if (seccionT_ && nombre == QLatin1String("TX_ANCHO")) etiqueta = QStringLiteral("Ancho - Ancho alma");
         if (seccionT_ && nombre == QLatin1String("TX_CANTO")) etiqueta = QStringLiteral("Canto - Canto ala");
+        if (nombre == QLatin1String("CO_FCK")) filaFck = fila;
         auto* rotulo = new QLabel(etiqueta, marco);
         rotulo->setBuddy(control);
         filas->addWidget(rotulo, fila, 0);
@@ -207,7 +209,6 @@ QWidget* FmFlexion::CreaDatos()
             if (BotonConFoco(gamma)) Coeficientes();
         });
     }
-    const int filaFck = seccionT_ ? 7 : 7;
     filas->addWidget(controles_[QStringLiteral("CM_GAMMA1")], filaFck, 3);
     filas->addWidget(controles_[QStringLiteral("CM_GAMMA2")], filaFck + 1, 3);
     filas->setColumnStretch(0, 1);
