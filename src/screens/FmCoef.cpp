@@ -117,21 +117,6 @@ double LecturaRegional(const QString& texto)
     return valor;
 }
 
-// The text box of a coefficient. A refused field takes the focus back while it is still
-// losing it, and Qt's line edit clears its selection as it ends losing the focus; so when the
-// focus has come back, the whole text is selected again, as the failure steps leave it.
-class CajaCoeficiente final : public QLineEdit {
-public:
-    using QLineEdit::QLineEdit;
-
-protected:
-    void focusOutEvent(QFocusEvent* evento) override
-    {
-        QLineEdit::focusOutEvent(evento);
-        if (QApplication::focusWidget() == this) selectAll();
-    }
-};
-
 QLabel* Etiqueta(const QString& nombre, const QString& texto, Qt::TextFormat formato, QWidget* padre)
 {
     auto* etiqueta = new QLabel(texto, padre);
@@ -209,7 +194,7 @@ QLineEdit* FmCoef::CreaFila(QGridLayout* rejilla, int fila, const Coeficiente& c
     const QString etiqueta = QString::fromUtf8(coeficiente.etiqueta);
     const QString sufijo = nombre.mid(2);  // "_GC" of "TX_GC"
 
-    auto* campo = new CajaCoeficiente(this);
+    auto* campo = new QLineEdit(this);
     campo->setObjectName(nombre);
     campo->setAccessibleName(etiqueta);
     campo->setAlignment(Qt::AlignRight);
