@@ -22,10 +22,7 @@ struct Orden {
 };
 
 // A lone "-" is a name: no option is that short.
-bool EsOpcion(const std::string& argumento)
-{
-    return argumento.size() > 1 && argumento.front() == '-';
-}
+bool EsOpcion(const std::string& argumento) { return argumento.size() > 1 && argumento.front() == '-'; }
 
 // Options and names may come in any order; after "--" everything is a name, so that a file
 // whose name starts with '-' can be given too.

@@ -10,8 +10,8 @@
 namespace texalon::calculo {
 
 // Exit status of the command.
-constexpr int kSalidaCorrecta = 0;    // every file calculated, or the help shown
-constexpr int kSalidaConFallos = 1;   // some file could not be read or calculated
+constexpr int kSalidaCorrecta = 0;  // every file calculated, or the help shown
+constexpr int kSalidaConFallos = 1;  // some file could not be read or calculated
 constexpr int kSalidaErrorDeUso = 2;  // no file, or an option the command does not know
 
 // The usage text of --help.

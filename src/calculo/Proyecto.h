@@ -13,8 +13,8 @@
 namespace texalon::calculo {
 
 enum class ClaseFichero {
-    Ninguna,        // not a project file
-    Flexion,        // VMF
+    Ninguna,  // not a project file
+    Flexion,  // VMF
     Confinamiento,  // VMC
 };
 

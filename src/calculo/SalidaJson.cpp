@@ -51,18 +51,12 @@ std::size_t CaracterUtf8(std::string_view texto)
 std::string EscapeControl(char c)
 {
     switch (c) {
-        case '\b':
-            return "\\b";
-        case '\f':
-            return "\\f";
-        case '\n':
-            return "\\n";
-        case '\r':
-            return "\\r";
-        case '\t':
-            return "\\t";
-        default:
-            break;
+    case '\b': return "\\b";
+    case '\f': return "\\f";
+    case '\n': return "\\n";
+    case '\r': return "\\r";
+    case '\t': return "\\t";
+    default: break;
     }
     constexpr std::string_view kHex = "0123456789abcdef";
     const auto codigo = static_cast<unsigned char>(c);
@@ -78,14 +72,8 @@ std::string Numero(double valor)
     return std::string(cifras, escrito.ptr);
 }
 
-std::string Valor(double valor)
-{
-    return Numero(valor);
-}
-std::string Valor(const std::string& valor)
-{
-    return CadenaJson(valor);
-}
+std::string Valor(double valor) { return Numero(valor); }
+std::string Valor(const std::string& valor) { return CadenaJson(valor); }
 
 // A result array by type, each a list by number of layers.
 template <typename T>

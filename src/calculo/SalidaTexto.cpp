@@ -23,10 +23,7 @@ constexpr std::size_t kAnchoTipo = 13;
 // The rows of CO_SECCION, for SECCION 1, 2 and 3.
 constexpr std::string_view kFormas[] = {"circular", "cuadrada", "rectangular"};
 
-std::string Alineado(std::string_view texto, std::size_t ancho)
-{
-    return FormatoTexto(texto, std::string(ancho, '@'));
-}
+std::string Alineado(std::string_view texto, std::size_t ancho) { return FormatoTexto(texto, std::string(ancho, '@')); }
 
 // The text of the grid cell (type, layers).
 using Celda = std::function<std::string(int tipo, int capas)>;
@@ -86,10 +83,7 @@ std::string DescripcionSeccion(const CalculoFichero& calculo)
 }
 
 // The screen shows the strains in thousandths.
-std::string Milesimas(double deformacion, char separador)
-{
-    return Formato(deformacion * 1000.0, "0.00", separador);
-}
+std::string Milesimas(double deformacion, char separador) { return Formato(deformacion * 1000.0, "0.00", separador); }
 
 std::string ResultadosFlexion(const CalculoFichero& calculo, char separador)
 {

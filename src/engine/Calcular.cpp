@@ -11,7 +11,8 @@ namespace {
 // The result arrays of one kind of calculation, allocated anew and cleared.
 void Asigna(General& g, std::initializer_list<Arreglo<double>*> arreglos)
 {
-    for (Arreglo<double>* arreglo : arreglos) arreglo->Redimensiona(g.NTIPOS, g.MAXCAPAS);
+    for (Arreglo<double>* arreglo : arreglos)
+        arreglo->Redimensiona(g.NTIPOS, g.MAXCAPAS);
 }
 
 // The largest value of a result array; the mark -999.0 never wins over the start at 0.
@@ -97,7 +98,8 @@ ResultadoCalculo Confinamiento(General& g, Entero forma, const LeeCampos& leeCam
     }
 
     // The three types of the catalogue, always.
-    for (Entero t = 1; t <= kNumeroTipos; ++t) CalculoConfina(g, forma, g.DIAM, g.LADOMENOR, g.FCK, t);
+    for (Entero t = 1; t <= kNumeroTipos; ++t)
+        CalculoConfina(g, forma, g.DIAM, g.LADOMENOR, g.FCK, t);
 
     g.RESUMAX = Maximo(g, g.RESU);
     if (!(g.INCR <= g.RESUMAX)) resultado.veredicto = Veredicto::NoSePuede;

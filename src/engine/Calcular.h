@@ -12,16 +12,17 @@ namespace texalon {
 
 // The verdict that the label LB_INFO shows after a Calculate.
 enum class Veredicto {
-    Oculto,          // the label is hidden
-    NoEsNecesario,   // green: the section carries MD by itself
-    NoSePuede,       // light red: no sheet reaches the requirement
+    Oculto,  // the label is hidden
+    NoEsNecesario,  // green: the section carries MD by itself
+    NoSePuede,  // light red: no sheet reaches the requirement
 };
 
 // The text of a verdict as the label shows it, blanks included; "" for a hidden label.
 std::string_view TextoVeredicto(Veredicto veredicto);
 
 // The message of a Calculate stopped by the initial strain.
-inline constexpr std::string_view kMensajePredeformacion = "La predeformación de la estructura es superior al 2 por mil.";
+inline constexpr std::string_view kMensajePredeformacion =
+    "La predeformación de la estructura es superior al 2 por mil.";
 // The largest initial strain a Calculate accepts; exactly 0.002 passes.
 constexpr double kPredeformacionMaxima = 0.002;
 

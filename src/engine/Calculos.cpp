@@ -84,8 +84,8 @@ void Rotura(General& g, const Seccion& s, double ANCHOR, double EPS0, Entero tip
         g.XRB(t, n) = xrb;
 
         const double t1 = s.MomentoBloque(xrb, s.h);
-        const double t2 = eTop >= s.epsy ? ((s.ass * s.fyk) / s.gs / 100.0) * s.d
-                                         : ((s.ass * kModuloAcero * eTop) / 100.0) * s.d;
+        const double t2 =
+            eTop >= s.epsy ? ((s.ass * s.fyk) / s.gs / 100.0) * s.d : ((s.ass * kModuloAcero * eTop) / 100.0) * s.d;
         g.MRB(t, n) = (t1 + t2 - s.MomentoAceroInferior()) * 10.0;
 
         const double xlim = (s.d * kDeformacionHormigon) / (s.epsy + kDeformacionHormigon);
@@ -200,9 +200,8 @@ SeccionFisurada AnalisisElastico(const General& g, Entero tipo)
     const double r = g.RECUB;
 
     // The cracked transformed rectangle: b X² / 2 + N A2 (X − r) = N A1 (h − r − X).
-    double X = (-N * (A2 + A1) +
-                std::sqrt(N * (N * A1 * A1 + N * A2 * A2 + 2.0 * N * A2 * A1 + 2.0 * b * A2 * r + 2.0 * b * A1 * h -
-                               2.0 * b * A1 * r))) /
+    double X = (-N * (A2 + A1) + std::sqrt(N * (N * A1 * A1 + N * A2 * A2 + 2.0 * N * A2 * A1 + 2.0 * b * A2 * r +
+                                                2.0 * b * A1 * h - 2.0 * b * A1 * r))) /
                b;
     double I = A2 * N * (X - r) * (X - r) + (1.0 / 3.0) * b * X * X * X + A1 * N * (h - X - r) * (h - X - r);
 

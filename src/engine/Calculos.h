@@ -17,8 +17,8 @@ constexpr Entero kSeccionT = 2;
 
 // Ultimate strains of the failure diagram and the modulus of the steel.
 constexpr double kDeformacionHormigon = 0.0035;  // pivot "B"
-constexpr double kDeformacionAcero = 0.01;       // pivot "A"
-constexpr double kModuloAcero = 200000.0;        // N/mm²
+constexpr double kDeformacionAcero = 0.01;  // pivot "A"
+constexpr double kModuloAcero = 200000.0;  // N/mm²
 // Every bisection and fixed-point loop ends at this tolerance, with no iteration limit.
 constexpr double kTolerancia = 0.00001;
 // MU holds this mark where a layer count, and all above it, brings no gain.

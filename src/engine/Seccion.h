@@ -14,10 +14,10 @@ namespace texalon {
 // the web, and in the reference moments taken from that block.
 struct Seccion {
     bool esT;
-    double b;   // width; flange width of a T
-    double h;   // depth
-    double r;   // cover
-    double d;   // depth of the bottom steel
+    double b;  // width; flange width of a T
+    double h;  // depth
+    double r;  // cover
+    double d;  // depth of the bottom steel
     double bw;  // web width of a T
     double hf;  // flange depth of a T
     double asi;
@@ -25,7 +25,7 @@ struct Seccion {
     double fyk;
     double gs;
     double epsy;  // yield strain of the steel
-    double fc;    // design stress of the concrete, scaled by 100
+    double fc;  // design stress of the concrete, scaled by 100
 
     Seccion(const General& g, bool t, double ANCHO, double CANTO, double RECUB, double ASI, double ASS, double FCK,
             double FYK)
@@ -102,18 +102,18 @@ struct Seccion {
 
 // Strains of the section at one neutral axis depth.
 struct Deformaciones {
-    double ec;   // top concrete fibre
+    double ec;  // top concrete fibre
     double es1;  // bottom steel
     double es2;  // top steel
-    double er;   // sheet, initial strain included
+    double er;  // sheet, initial strain included
 };
 
 // The cracked, transformed section under service load.
 struct SeccionFisurada {
     double EC;  // modulus of the concrete, N/mm²
-    double N;   // modular ratio
-    double X;   // depth of the neutral axis, m
-    double I;   // second moment of area, m⁴
+    double N;  // modular ratio
+    double X;  // depth of the neutral axis, m
+    double I;  // second moment of area, m⁴
 };
 
 // Modulus of the concrete, N/mm², from its characteristic strength.

@@ -22,10 +22,7 @@ enum class Seccion { kRectangular, kT };
 // Reading the fields.
 
 // The blanks that the numeric test lets stand around a number.
-bool EsBlanco(char c)
-{
-    return c == ' ' || c == '\t';
-}
+bool EsBlanco(char c) { return c == ' ' || c == '\t'; }
 
 std::string_view Recorta(std::string_view texto)
 {
@@ -130,15 +127,9 @@ void CopiaFlexionDe(General& g, const TextosFlexion& campos, Seccion seccion)
 
 }  // namespace
 
-void CopiaFlexion(General& g, const TextosFlexion& campos)
-{
-    CopiaFlexionDe(g, campos, Seccion::kRectangular);
-}
+void CopiaFlexion(General& g, const TextosFlexion& campos) { CopiaFlexionDe(g, campos, Seccion::kRectangular); }
 
-void CopiaFlexionT(General& g, const TextosFlexion& campos)
-{
-    CopiaFlexionDe(g, campos, Seccion::kT);
-}
+void CopiaFlexionT(General& g, const TextosFlexion& campos) { CopiaFlexionDe(g, campos, Seccion::kT); }
 
 void CopiaConfina(General& g, const TextosConfina& campos, int indice_seccion)
 {

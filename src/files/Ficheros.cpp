@@ -36,21 +36,15 @@ constexpr std::string_view kFinDeLinea = "\r\n";
 int NumeroDeErrorDelSistema(int codigo)
 {
     switch (codigo) {
-        case ENOMEM:
-            return ErrorEjecucion::kMemoriaInsuficiente;
-        case ENOSPC:
-        case EDQUOT:
-            return ErrorEjecucion::kDiscoLleno;
-        case EACCES:
-        case EPERM:
-        case EROFS:
-            return ErrorEjecucion::kPermisoDenegado;
-        case ENOTDIR:
-            return ErrorEjecucion::kRutaNoEncontrada;
-        case EISDIR:
-            return ErrorEjecucion::kErrorDeAccesoRuta;
-        default:
-            return ErrorEjecucion::kErrorDeEntradaSalida;
+    case ENOMEM: return ErrorEjecucion::kMemoriaInsuficiente;
+    case ENOSPC:
+    case EDQUOT: return ErrorEjecucion::kDiscoLleno;
+    case EACCES:
+    case EPERM:
+    case EROFS: return ErrorEjecucion::kPermisoDenegado;
+    case ENOTDIR: return ErrorEjecucion::kRutaNoEncontrada;
+    case EISDIR: return ErrorEjecucion::kErrorDeAccesoRuta;
+    default: return ErrorEjecucion::kErrorDeEntradaSalida;
     }
 }
 
@@ -66,10 +60,7 @@ int NumeroDeErrorAlAbrir(int codigo, const std::string& fichero)
     return ErrorEjecucion::kArchivoNoEncontrado;
 }
 
-[[noreturn]] void LanzaErrorDelSistema(int codigo)
-{
-    throw ErrorEjecucion(NumeroDeErrorDelSistema(codigo));
-}
+[[noreturn]] void LanzaErrorDelSistema(int codigo) { throw ErrorEjecucion(NumeroDeErrorDelSistema(codigo)); }
 
 // ---------------------------------------------------------------------------------------------
 // The file channel: one open file, closed on leaving the procedure whatever happens.
@@ -112,15 +103,9 @@ private:
 // ---------------------------------------------------------------------------------------------
 // Reading values: the classic sequential input of a numeric variable.
 
-bool EsBlanco(int c)
-{
-    return c == ' ' || c == '\t';
-}
+bool EsBlanco(int c) { return c == ' ' || c == '\t'; }
 
-bool EsFinDeLinea(int c)
-{
-    return c == '\r' || c == '\n';
-}
+bool EsFinDeLinea(int c) { return c == '\r' || c == '\n'; }
 
 // Rounds half-way cases to the even neighbour, as the classic conversion to an integer does,
 // whatever rounding mode the floating-point unit happens to be in.

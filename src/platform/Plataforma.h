@@ -8,8 +8,8 @@
 #include "state/ErrorEjecucion.h"
 
 #include <QSizeF>
-#include <QStringList>
 #include <QString>
+#include <QStringList>
 #include <optional>
 #include <string_view>
 
@@ -22,10 +22,10 @@ inline const QString kTituloMensajes = QStringLiteral("VELMORA - TEXALON®");
 
 // Message box styles, numbered as the classic message box numbers them.
 enum class Estilo : int {
-    Parada = 16,        // stop icon, one button
+    Parada = 16,  // stop icon, one button
     PreguntaSiNo = 36,  // question icon, Yes and No
-    Exclamacion = 48,   // exclamation icon, one button
-    Informacion = 64,   // information icon, one button
+    Exclamacion = 48,  // exclamation icon, one button
+    Informacion = 64,  // information icon, one button
 };
 
 enum class Respuesta : int { Aceptar = 1, Si = 6, No = 7 };

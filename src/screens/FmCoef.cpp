@@ -64,16 +64,10 @@ const QString kNota = QStringLiteral(
     "<b>NOTA: </b>Se recomienda no modificar los valores de los coeficientes de seguridad "
     "establecidos por el programa.");
 
-const FmCoef::Coeficiente& CoeficienteDe(int fila)
-{
-    return kCoeficientes[static_cast<std::size_t>(fila)];
-}
+const FmCoef::Coeficiente& CoeficienteDe(int fila) { return kCoeficientes[static_cast<std::size_t>(fila)]; }
 
 // The value that a field's text stands for: the sign is dropped, as for every field.
-double ValorDe(const QString& texto)
-{
-    return std::fabs(Decimales(texto.trimmed().toStdString()));
-}
+double ValorDe(const QString& texto) { return std::fabs(Decimales(texto.trimmed().toStdString())); }
 
 // The message of the first test the text fails, or nothing when it passes them all. Only the
 // empty text is "not given": blanks alone fail the numeric test.
@@ -85,10 +79,7 @@ std::optional<QString> Rechazo(const QString& texto, const FmCoef::Coeficiente& 
     return std::nullopt;
 }
 
-[[noreturn]] void NoEsNumero()
-{
-    throw ErrorEjecucion(ErrorEjecucion::kTiposNoCoinciden);
-}
+[[noreturn]] void NoEsNumero() { throw ErrorEjecucion(ErrorEjecucion::kTiposNoCoinciden); }
 
 // The regional reading of a number, as Aceptar takes the fields: the machine's decimal
 // separator is the only one understood, and no thousands separator is, so the text must be a

@@ -180,8 +180,8 @@ QWidget* FmFlexion::CreaDatos()
         AlPerderFoco(control, [this, &regla] { Comprueba(regla); });
 
         // On the T screen the web width and the flange depth stand beside the width and depth.
-        const bool companero = seccionT_ && (nombre == QLatin1String("TX_ANCHOALMA") ||
-                                             nombre == QLatin1String("TX_CANTOALA"));
+        const bool companero =
+            seccionT_ && (nombre == QLatin1String("TX_ANCHOALMA") || nombre == QLatin1String("TX_CANTOALA"));
         if (companero) {
             filas->addWidget(control, fila - 1, 3);
             filas->addWidget(new QLabel(QString::fromUtf8(RotuloDe(regla.control).unidad), marco), fila - 1, 4);
@@ -356,7 +356,8 @@ void FmFlexion::CargaCampos()
 
 void FmFlexion::CargaLista(QComboBox* lista, const ReglaCampo& regla)
 {
-    for (double fila : FilasLista(regla.control)) lista->addItem(plataforma::FormatoLocal(fila, regla.formato));
+    for (double fila : FilasLista(regla.control))
+        lista->addItem(plataforma::FormatoLocal(fila, regla.formato));
     // The row is chosen by exact comparison of its rounded text with the state: a value that
     // no row shows goes into the next row, rounded as the field shows it.
     const double valor = Estado().*regla.campo;
@@ -405,7 +406,8 @@ void FmFlexion::Comprueba(const ReglaCampo& regla)
 
 void FmFlexion::ActivaResultados(bool activos)
 {
-    for (const char* nombre : kBotonesResultado) controles_[QString::fromLatin1(nombre)]->setEnabled(activos);
+    for (const char* nombre : kBotonesResultado)
+        controles_[QString::fromLatin1(nombre)]->setEnabled(activos);
 }
 
 void FmFlexion::LeeCampos(General& g) const
@@ -422,9 +424,9 @@ void FmFlexion::Calcular()
     const ResultadoCalculo r =
         CalculaFlexion(g, seccionT_ ? kSeccionT : kSeccionRectangular, [this](General& e) { LeeCampos(e); });
     if (r.predeformacionExcesiva) {
-        plataforma::MsgBox(QString::fromUtf8(kMensajePredeformacion.data(),
-                                             static_cast<qsizetype>(kMensajePredeformacion.size())),
-                           plataforma::Estilo::Parada);
+        plataforma::MsgBox(
+            QString::fromUtf8(kMensajePredeformacion.data(), static_cast<qsizetype>(kMensajePredeformacion.size())),
+            plataforma::Estilo::Parada);
         rejilla_->Activa(false);
         return;
     }
@@ -460,12 +462,14 @@ void FmFlexion::TablaFlexion()
     const General& g = Estado();
     rejilla_->Dimensiona(g.MAXCAPAS + 1, g.NTIPOS + 1, 300, 1595, 1000);
     rejilla_->EscribeCelda(0, 0, QStringLiteral("Nº capas"));
-    for (int t = 1; t <= g.NTIPOS; ++t) rejilla_->EscribeCelda(0, t, Texto(g.TIPOS(t)));
+    for (int t = 1; t <= g.NTIPOS; ++t)
+        rejilla_->EscribeCelda(0, t, Texto(g.TIPOS(t)));
     for (int n = 1; n <= g.MAXCAPAS; ++n) {
         rejilla_->EscribeCelda(n, 0, QString::number(n));
         for (int t = 1; t <= g.NTIPOS; ++t) {
             const double mu = g.MU(t, n);
-            rejilla_->EscribeCelda(n, t, mu == kSinMejora ? QStringLiteral("---") : plataforma::FormatoLocal(mu, "0.0"));
+            rejilla_->EscribeCelda(n, t,
+                                   mu == kSinMejora ? QStringLiteral("---") : plataforma::FormatoLocal(mu, "0.0"));
             // Every combination that carries the design moment is yellow, whatever the verdict.
             rejilla_->ColoreaCelda(n, t, mu >= g.MD ? QColor(255, 255, 0) : QColor(255, 255, 255));
         }
@@ -529,7 +533,9 @@ void FmFlexion::closeEvent(QCloseEvent* evento)
 
 TextosFlexion FmFlexion::Textos() const
 {
-    const auto texto = [this](const char* nombre) { return TextoDe(Control(QString::fromLatin1(nombre))).toStdString(); };
+    const auto texto = [this](const char* nombre) {
+        return TextoDe(Control(QString::fromLatin1(nombre))).toStdString();
+    };
     TextosFlexion textos;
     textos.ANCHO = texto("TX_ANCHO");
     textos.CANTO = texto("TX_CANTO");

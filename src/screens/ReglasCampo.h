@@ -37,9 +37,9 @@ struct Limite {
 
 struct ReglaCampo {
     std::string control;  // "TX_RECUB"
-    CampoEstado campo;    // &General::RECUB
+    CampoEstado campo;  // &General::RECUB
     std::string formato;  // "0.000"
-    double reinicio;      // what the state field receives when a test fails
+    double reinicio;  // what the state field receives when a test fails
     std::string mensajeVacio;
     std::string mensajeNoNumero;
     std::optional<Limite> maximo;  // a range's upper bound, tested first
@@ -53,9 +53,9 @@ enum class Desenlace { Aceptado, Rechazado, Blando };
 
 struct ResultadoCampo {
     Desenlace desenlace = Desenlace::Aceptado;
-    std::string mensaje;       // the message to show, "" on acceptance
-    std::string textoNuevo;    // the control's new text, when it is rewritten
-    std::string companero;     // where a soft failure sends the focus
+    std::string mensaje;  // the message to show, "" on acceptance
+    std::string textoNuevo;  // the control's new text, when it is rewritten
+    std::string companero;  // where a soft failure sends the focus
 };
 
 // Runs the pattern on the text of a field: changes the state as the pattern says (the value

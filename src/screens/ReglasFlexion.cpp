@@ -20,22 +20,34 @@ PruebaPropia Dura(std::function<bool(double, const General&)> falla, std::string
 
 ReglaCampo Ancho(bool seccionT)
 {
-    ReglaCampo r{"TX_ANCHO", &General::ANCHO, "0.000", 0.4, "Debe darse el ancho de la sección.",
-                 "El ancho de la sección debe ser un número.", std::nullopt,
-                 Limite{kMinimoLongitud, "El ancho de la sección debe ser un número mayor que cero."}, std::nullopt,
+    ReglaCampo r{"TX_ANCHO",
+                 &General::ANCHO,
+                 "0.000",
+                 0.4,
+                 "Debe darse el ancho de la sección.",
+                 "El ancho de la sección debe ser un número.",
+                 std::nullopt,
+                 Limite{kMinimoLongitud, "El ancho de la sección debe ser un número mayor que cero."},
+                 std::nullopt,
                  {}};
     // On the rectangular screen only, a width below the sheet's sends the user to the sheet.
     if (!seccionT)
         r.propias.push_back(Blanda([](double v, const General& g) { return v < g.ANCHOR; },
-                                   "El ancho del refuerzo no puede ser mayor que el ancho de la sección.", "CO_ANCHOR"));
+                                   "El ancho del refuerzo no puede ser mayor que el ancho de la sección.",
+                                   "CO_ANCHOR"));
     return r;
 }
 
 ReglaCampo AnchoAlma()
 {
     // A width below the bound resets the flange width, not the web's: kept as it stands.
-    return {"TX_ANCHOALMA", &General::ANCHOALMA, "0.000", 0.2, "Debe darse el ancho del alma de la sección.",
-            "El ancho del alma de la sección debe ser un número.", std::nullopt,
+    return {"TX_ANCHOALMA",
+            &General::ANCHOALMA,
+            "0.000",
+            0.2,
+            "Debe darse el ancho del alma de la sección.",
+            "El ancho del alma de la sección debe ser un número.",
+            std::nullopt,
             Limite{kMinimoLongitud, "El ancho del alma de la sección debe ser un número mayor que cero."},
             &General::ANCHO,
             {Blanda([](double v, const General& g) { return v < g.ANCHOR; },
@@ -44,9 +56,15 @@ ReglaCampo AnchoAlma()
 
 ReglaCampo Canto(bool seccionT)
 {
-    ReglaCampo r{"TX_CANTO", &General::CANTO, "0.000", 0.6, "Debe darse el canto de la sección.",
-                 "El canto de la sección debe ser un número.", std::nullopt,
-                 Limite{kMinimoLongitud, "El canto de la sección debe ser un número mayor que cero."}, std::nullopt,
+    ReglaCampo r{"TX_CANTO",
+                 &General::CANTO,
+                 "0.000",
+                 0.6,
+                 "Debe darse el canto de la sección.",
+                 "El canto de la sección debe ser un número.",
+                 std::nullopt,
+                 Limite{kMinimoLongitud, "El canto de la sección debe ser un número mayor que cero."},
+                 std::nullopt,
                  {}};
     if (seccionT)
         r.propias.push_back(Blanda([](double v, const General& g) { return v < g.CANTOALA; },
@@ -57,8 +75,13 @@ ReglaCampo Canto(bool seccionT)
 ReglaCampo CantoAla()
 {
     // A depth below the bound resets the total depth, not the flange's: kept as it stands.
-    return {"TX_CANTOALA", &General::CANTOALA, "0.000", 0.2, "Debe darse el canto del ala de la sección.",
-            "El canto del ala de la sección debe ser un número.", std::nullopt,
+    return {"TX_CANTOALA",
+            &General::CANTOALA,
+            "0.000",
+            0.2,
+            "Debe darse el canto del ala de la sección.",
+            "El canto del ala de la sección debe ser un número.",
+            std::nullopt,
             Limite{kMinimoLongitud, "El canto del ala de la sección debe ser un número mayor que cero."},
             &General::CANTO,
             {Dura([](double v, const General& g) { return v > g.CANTO; },
@@ -75,36 +98,88 @@ std::vector<ReglaCampo> Comunes()
     anchoRefuerzo.valorReinicio = [](const General& g) { return g.ANCHO; };
 
     return {
-        {"TX_RECUB", &General::RECUB, "0.000", 0.05, "Debe darse el recubrimiento de la sección.",
-         "El recubrimiento de la sección debe ser un número.", std::nullopt,
-         Limite{kMinimoLongitud, "El recubrimiento de la sección debe ser mayor que cero."}, std::nullopt,
+        {"TX_RECUB",
+         &General::RECUB,
+         "0.000",
+         0.05,
+         "Debe darse el recubrimiento de la sección.",
+         "El recubrimiento de la sección debe ser un número.",
+         std::nullopt,
+         Limite{kMinimoLongitud, "El recubrimiento de la sección debe ser mayor que cero."},
+         std::nullopt,
          {Dura([](double v, const General& g) { return v > g.CANTO / 2.0; },
                "El recubrimiento de la sección debe ser menor que la mitad del canto.")}},
-        {"TX_ASI", &General::ASI, "0.00", 10.0, "Debe darse la armadura inferior de la sección.",
-         "La armadura inferior de la sección debe ser un número.", std::nullopt,
-         Limite{kMinimoLongitud, "La armadura inferior de la sección debe ser mayor que cero."}, std::nullopt, {}},
+        {"TX_ASI",
+         &General::ASI,
+         "0.00",
+         10.0,
+         "Debe darse la armadura inferior de la sección.",
+         "La armadura inferior de la sección debe ser un número.",
+         std::nullopt,
+         Limite{kMinimoLongitud, "La armadura inferior de la sección debe ser mayor que cero."},
+         std::nullopt,
+         {}},
         // The reset of the top steel is 10, though its start value is 0: kept as it stands.
-        {"TX_ASS", &General::ASS, "0.00", 10.0, "Debe darse la armadura superior de la sección.",
-         "La armadura superior de la sección debe ser un número.", std::nullopt, std::nullopt, std::nullopt, {}},
-        {"TX_MCP", &General::MCP, "0.00", 0.0,
+        {"TX_ASS",
+         &General::ASS,
+         "0.00",
+         10.0,
+         "Debe darse la armadura superior de la sección.",
+         "La armadura superior de la sección debe ser un número.",
+         std::nullopt,
+         std::nullopt,
+         std::nullopt,
+         {}},
+        {"TX_MCP",
+         &General::MCP,
+         "0.00",
+         0.0,
          "Debe darse el momento que actúa en la sección cuando se va a colocar el refuerzo.",
-         "El momento que actúa en la sección cuando se va a colocar el refuerzo debe ser un número.", std::nullopt,
-         std::nullopt, std::nullopt, {}},
-        {"TX_MD", &General::MD, "0.00", 0.0, "Debe darse el momento de cálculo.",
-         "El momento de cálculo debe ser un número.", std::nullopt, std::nullopt, std::nullopt, {}},
-        {"CO_FCK", &General::FCK, "0", 25.0, "Debe darse la resistencia del hormigón de la sección.",
+         "El momento que actúa en la sección cuando se va a colocar el refuerzo debe ser un número.",
+         std::nullopt,
+         std::nullopt,
+         std::nullopt,
+         {}},
+        {"TX_MD",
+         &General::MD,
+         "0.00",
+         0.0,
+         "Debe darse el momento de cálculo.",
+         "El momento de cálculo debe ser un número.",
+         std::nullopt,
+         std::nullopt,
+         std::nullopt,
+         {}},
+        {"CO_FCK",
+         &General::FCK,
+         "0",
+         25.0,
+         "Debe darse la resistencia del hormigón de la sección.",
          "La resistencia del hormigón de la sección debe ser un número.",
          Limite{50.0, "La resistencia del hormigón de la sección no puede ser mayor de 50 N/mm²."},
-         Limite{15.0, "La resistencia del hormigón de la sección no puede ser menor de 15 N/mm²."}, std::nullopt, {}},
-        {"CO_FYK", &General::FYK, "0", 500.0, "Debe darse la resistencia del acero de las armaduras de la sección.",
+         Limite{15.0, "La resistencia del hormigón de la sección no puede ser menor de 15 N/mm²."},
+         std::nullopt,
+         {}},
+        {"CO_FYK",
+         &General::FYK,
+         "0",
+         500.0,
+         "Debe darse la resistencia del acero de las armaduras de la sección.",
          "La resistencia del acero de las armaduras de la sección debe ser un número.",
          Limite{600.0, "La resistencia del acero de las armaduras no puede ser mayor de 600 N/mm²."},
-         Limite{300.0, "La resistencia del acero de las armaduras no puede ser menor de 300 N/mm²."}, std::nullopt,
+         Limite{300.0, "La resistencia del acero de las armaduras no puede ser menor de 300 N/mm²."},
+         std::nullopt,
          {}},
-        {"CO_ANCHOR", &General::ANCHOR, "0.000", 0.125, "Debe darse el ancho del refuerzo a disponer en la sección.",
-         "El ancho del refuerzo a disponer en la sección debe ser un número.", std::nullopt,
+        {"CO_ANCHOR",
+         &General::ANCHOR,
+         "0.000",
+         0.125,
+         "Debe darse el ancho del refuerzo a disponer en la sección.",
+         "El ancho del refuerzo a disponer en la sección debe ser un número.",
+         std::nullopt,
          Limite{kMinimoLongitud, "El ancho del refuerzo a disponer en la sección debe ser mayor que cero."},
-         std::nullopt, {anchoRefuerzo}},
+         std::nullopt,
+         {anchoRefuerzo}},
     };
 }
 
@@ -115,7 +190,8 @@ std::vector<ReglaCampo> Construye(bool seccionT)
     if (seccionT) reglas.push_back(AnchoAlma());
     reglas.push_back(Canto(seccionT));
     if (seccionT) reglas.push_back(CantoAla());
-    for (ReglaCampo& r : Comunes()) reglas.push_back(std::move(r));
+    for (ReglaCampo& r : Comunes())
+        reglas.push_back(std::move(r));
     return reglas;
 }
 

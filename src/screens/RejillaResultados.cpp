@@ -50,10 +50,7 @@ private:
 
 }  // namespace
 
-int PixelesDeTwips(int twips)
-{
-    return qRound(twips / kTwipsPorPixel);
-}
+int PixelesDeTwips(int twips) { return qRound(twips / kTwipsPorPixel); }
 
 RejillaResultados::RejillaResultados(QWidget* padre) : QTableWidget(padre)
 {
@@ -133,15 +130,9 @@ void RejillaResultados::ColoreaCelda(int fila, int columna, const QColor& color)
     Celda(fila, columna)->setBackground(color);
 }
 
-QString RejillaResultados::Texto(int fila, int columna) const
-{
-    return Celda(fila, columna)->text();
-}
+QString RejillaResultados::Texto(int fila, int columna) const { return Celda(fila, columna)->text(); }
 
-QColor RejillaResultados::Color(int fila, int columna) const
-{
-    return Celda(fila, columna)->background().color();
-}
+QColor RejillaResultados::Color(int fila, int columna) const { return Celda(fila, columna)->background().color(); }
 
 void RejillaResultados::CeldaActual(int fila, int columna)
 {

@@ -25,8 +25,7 @@ QLabel* Etiqueta(const char* nombre, const QString& texto, QWidget* padre)
 
 }  // namespace
 
-FmPresentacion::FmPresentacion(QWidget* principal)
-    : QWidget(principal, Qt::Dialog | Qt::FramelessWindowHint)
+FmPresentacion::FmPresentacion(QWidget* principal) : QWidget(principal, Qt::Dialog | Qt::FramelessWindowHint)
 {
     setObjectName(QStringLiteral("FM_PRESENTACION"));
     setAttribute(Qt::WA_DeleteOnClose);
@@ -56,8 +55,7 @@ FmPresentacion::FmPresentacion(QWidget* principal)
 
     LB_COMENTARIOS_ = Etiqueta(
         "LB_COMENTARIOS",
-        QStringLiteral("Programa de cálculo del refuerzo de secciones mediante fibra de carbono TEXALON®."),
-        Frame1_);
+        QStringLiteral("Programa de cálculo del refuerzo de secciones mediante fibra de carbono TEXALON®."), Frame1_);
     LB_COMENTARIOS_->setWordWrap(true);
 
     LB_AUTOR_ = Etiqueta("LB_AUTOR", QStringLiteral("© VELMORA, 2026"), Frame1_);

@@ -2,9 +2,9 @@
 
 #include "platform/Plataforma.h"
 #include "screens/FmFlexion.h"
+#include "screens/Imagenes.h"
 #include "shell/FmAcercaDe.h"
 #include "shell/FmPresentacion.h"
-#include "screens/Imagenes.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -187,8 +187,8 @@ void MdiPrincipal::CreaMenu()
         menu->menuAction()->setObjectName(QString::fromLatin1(definicion.nombre));
         connect(menu, &QMenu::aboutToShow, this, &MdiPrincipal::CierraPresentacion);
         for (const EntradaMenu& entrada : definicion.entradas) {
-            QAction* accion = entrada.titulo == nullptr ? menu->addSeparator()
-                                                        : menu->addAction(QString::fromUtf8(entrada.titulo));
+            QAction* accion =
+                entrada.titulo == nullptr ? menu->addSeparator() : menu->addAction(QString::fromUtf8(entrada.titulo));
             accion->setObjectName(QString::fromLatin1(entrada.nombre));
             accion->setEnabled(entrada.activo);
             const QKeySequence atajo(QString::fromLatin1(entrada.atajo));
@@ -213,8 +213,9 @@ void MdiPrincipal::CreaBarra()
     barra_->addSeparator();
     for (const BotonBarra& boton : kBotones) {
         const QString clave = QString::fromLatin1(boton.clave);
-        QAction* accion = barra_->addAction(
-            QIcon(QStringLiteral(":/iconos/%1.svg").arg(QString::fromLatin1(boton.imagen))), QString::fromUtf8(boton.consejo));
+        QAction* accion =
+            barra_->addAction(QIcon(QStringLiteral(":/iconos/%1.svg").arg(QString::fromLatin1(boton.imagen))),
+                              QString::fromUtf8(boton.consejo));
         accion->setObjectName(clave);
         accion->setData(clave);
         accion->setToolTip(QString::fromUtf8(boton.consejo));
@@ -315,10 +316,9 @@ void MdiPrincipal::MuestraPantalla(Pantalla pantalla)
     if (contenido == nullptr) return;
 
     // A screen has a fixed size and a frame that can be minimised and closed, not stretched.
-    QMdiSubWindow* ventana = area_->addSubWindow(contenido, Qt::SubWindow | Qt::WindowTitleHint |
-                                                                Qt::WindowSystemMenuHint |
-                                                                Qt::WindowMinimizeButtonHint |
-                                                                Qt::WindowCloseButtonHint);
+    QMdiSubWindow* ventana =
+        area_->addSubWindow(contenido, Qt::SubWindow | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
+                                           Qt::WindowMinimizeButtonHint | Qt::WindowCloseButtonHint);
     ventana->setAttribute(Qt::WA_DeleteOnClose);
     ventana->setWindowIcon(contenido->windowIcon());
     ventana->adjustSize();

@@ -23,7 +23,7 @@ class MdiPrincipal : public QMainWindow {
     Q_OBJECT
 public:
     static constexpr int kAncho = 800;  // 12000 twips at 15 twips a pixel
-    static constexpr int kAlto = 600;   // 9000 twips
+    static constexpr int kAlto = 600;  // 9000 twips
 
     // Creates the window and runs its load: the flags, the resolution test, the splash and the
     // start values of the project. A screen too small ends the process there.

@@ -55,8 +55,7 @@ private:
     {
         if (dimensiones != dimensiones_ || i < 1 || i > filas_ || j < 1 || j > columnas_)
             throw ErrorEjecucion(ErrorEjecucion::kSubindiceFueraDeIntervalo);
-        return static_cast<std::size_t>(i - 1) * static_cast<std::size_t>(columnas_)
-            + static_cast<std::size_t>(j - 1);
+        return static_cast<std::size_t>(i - 1) * static_cast<std::size_t>(columnas_) + static_cast<std::size_t>(j - 1);
     }
 
     std::vector<T> elementos_;

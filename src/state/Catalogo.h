@@ -9,8 +9,8 @@ namespace texalon {
 
 // Columns of a CATALOGO row.
 constexpr int kEspesor = 1;  // thickness of one layer, mm
-constexpr int kModulo = 2;   // Young's modulus, N/mm²
-constexpr int kEpsu = 3;     // ultimate strain
+constexpr int kModulo = 2;  // Young's modulus, N/mm²
+constexpr int kEpsu = 3;  // ultimate strain
 
 // The catalogue size: three sheet types, one to five layers.
 constexpr Entero kNumeroTipos = 3;

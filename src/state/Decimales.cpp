@@ -10,27 +10,15 @@ namespace texalon {
 
 namespace {
 
-bool EsDigito(char c)
-{
-    return c >= '0' && c <= '9';
-}
+bool EsDigito(char c) { return c >= '0' && c <= '9'; }
 
 // Blanks that may surround a field's text.
-bool EsBlancoBorde(char c)
-{
-    return c == ' ' || c == '\t';
-}
+bool EsBlancoBorde(char c) { return c == ' ' || c == '\t'; }
 
 // Blanks the plain number reading skips wherever they appear.
-bool EsBlancoLectura(char c)
-{
-    return c == ' ' || c == '\t' || c == '\n';
-}
+bool EsBlancoLectura(char c) { return c == ' ' || c == '\t' || c == '\n'; }
 
-bool EsExponente(char c)
-{
-    return c == 'E' || c == 'e' || c == 'D' || c == 'd';
-}
+bool EsExponente(char c) { return c == 'E' || c == 'e' || c == 'D' || c == 'd'; }
 
 // Length of the text once leading and trailing blanks are trimmed.
 std::size_t LargoRecortado(std::string_view texto)
@@ -81,7 +69,7 @@ double LecturaSimple(std::string_view texto)
         lector.Avanza();
     }
 
-    std::string mantisa;    // digits only, the point is tracked apart
+    std::string mantisa;  // digits only, the point is tracked apart
     long long enteros = 0;  // digits before the point
     bool hay_punto = false;
     for (char c = lector.Mira(); EsDigito(c) || (c == '.' && !hay_punto); c = lector.Mira()) {
@@ -130,7 +118,6 @@ double LecturaSimple(std::string_view texto)
     }
     return negativo ? -valor : valor;
 }
-
 
 double Decimales(std::string_view texto)
 {

@@ -40,10 +40,7 @@ std::string LeeFichero(const std::filesystem::path& ruta)
 
 }  // namespace
 
-DirectorioTemporal::DirectorioTemporal() : ruta_(RutaNueva())
-{
-    std::filesystem::create_directories(ruta_);
-}
+DirectorioTemporal::DirectorioTemporal() : ruta_(RutaNueva()) { std::filesystem::create_directories(ruta_); }
 
 DirectorioTemporal::~DirectorioTemporal()
 {
@@ -59,10 +56,7 @@ std::string DirectorioTemporal::Escribe(const std::string& nombre, std::string_v
     return fichero;
 }
 
-std::string DirectorioTemporal::Fichero(const std::string& nombre) const
-{
-    return (ruta_ / nombre).string();
-}
+std::string DirectorioTemporal::Fichero(const std::string& nombre) const { return (ruta_ / nombre).string(); }
 
 Ejecucion EjecutaCalculo(const std::vector<std::string>& argumentos, char separador)
 {

@@ -37,15 +37,9 @@ void ComparaSalida(const Caso& caso, bool json)
 
 class Esperado : public ::testing::TestWithParam<Caso> {};
 
-TEST_P(Esperado, Texto)
-{
-    ComparaSalida(GetParam(), false);
-}
+TEST_P(Esperado, Texto) { ComparaSalida(GetParam(), false); }
 
-TEST_P(Esperado, Json)
-{
-    ComparaSalida(GetParam(), true);
-}
+TEST_P(Esperado, Json) { ComparaSalida(GetParam(), true); }
 
 INSTANTIATE_TEST_SUITE_P(Calculo, Esperado, ::testing::ValuesIn(kCasos),
                          [](const ::testing::TestParamInfo<Caso>& caso) { return std::string(caso.param.nombre); });

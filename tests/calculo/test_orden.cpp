@@ -39,10 +39,7 @@ TEST(OrdenCalculo, SinArgumentosEsErrorDeUso)
               "Pruebe «texalon-calculo --help» para más información.\n");
 }
 
-TEST(OrdenCalculo, SoloJsonEsErrorDeUso)
-{
-    EXPECT_EQ(EjecutaCalculo({"--json"}).estado, 2);
-}
+TEST(OrdenCalculo, SoloJsonEsErrorDeUso) { EXPECT_EQ(EjecutaCalculo({"--json"}).estado, 2); }
 
 TEST(OrdenCalculo, OpcionDesconocidaEsErrorDeUso)
 {

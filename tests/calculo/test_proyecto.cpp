@@ -13,10 +13,7 @@ namespace {
 
 using prueba::DirectorioTemporal;
 
-std::string Redondeado(double valor, std::string_view patron = "0.00")
-{
-    return Formato(valor, patron, '.');
-}
+std::string Redondeado(double valor, std::string_view patron = "0.00") { return Formato(valor, patron, '.'); }
 
 TEST(ClaseDe, LaExtensionDecideEnMayusculasOMinusculas)
 {
@@ -27,10 +24,7 @@ TEST(ClaseDe, LaExtensionDecideEnMayusculasOMinusculas)
     EXPECT_EQ(ClaseDe("PILAR.VMC"), ClaseFichero::Confinamiento);
 }
 
-TEST(ClaseDe, SeRecortanLosBlancosDelNombre)
-{
-    EXPECT_EQ(ClaseDe("  viga.vmf  "), ClaseFichero::Flexion);
-}
+TEST(ClaseDe, SeRecortanLosBlancosDelNombre) { EXPECT_EQ(ClaseDe("  viga.vmf  "), ClaseFichero::Flexion); }
 
 TEST(ClaseDe, OtraExtensionNoEsUnProyecto)
 {

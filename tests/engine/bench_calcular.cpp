@@ -18,7 +18,8 @@ void CalculoFlexionRectangular(benchmark::State& estado)
 {
     General g = ProyectoPorDefecto();
     g.MCP = 50.0;
-    for (auto _ : estado) benchmark::DoNotOptimize(CalculaFlexion(g, 1, nullptr));
+    for (auto _ : estado)
+        benchmark::DoNotOptimize(CalculaFlexion(g, 1, nullptr));
 }
 BENCHMARK(CalculoFlexionRectangular);
 
@@ -27,7 +28,8 @@ void CalculoFlexionT(benchmark::State& estado)
     General g = ProyectoPorDefecto();
     g.CANTOALA = 0.05;
     g.MCP = 50.0;
-    for (auto _ : estado) benchmark::DoNotOptimize(CalculaFlexion(g, 2, nullptr));
+    for (auto _ : estado)
+        benchmark::DoNotOptimize(CalculaFlexion(g, 2, nullptr));
 }
 BENCHMARK(CalculoFlexionT);
 
@@ -35,7 +37,8 @@ void CalculoConfinamiento(benchmark::State& estado)
 {
     General g = ProyectoPorDefecto();
     g.NCP = 1000.0;
-    for (auto _ : estado) benchmark::DoNotOptimize(CalculaConfinamiento(g, 1, nullptr));
+    for (auto _ : estado)
+        benchmark::DoNotOptimize(CalculaConfinamiento(g, 1, nullptr));
 }
 BENCHMARK(CalculoConfinamiento);
 

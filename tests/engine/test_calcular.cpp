@@ -124,7 +124,8 @@ TEST(CalculaFlexion, PredeformacionDeDosPorMilExactaPasa)
     EXPECT_FALSE(Flexion(g).predeformacionExcesiva);
     EXPECT_TRUE(g.F_CALCULADO);
     g.MCP = std::nextafter(g.MCP, 1e9);
-    while (Predeformacion(g, kSeccionRectangular), g.EPS0 == 0.002) g.MCP = std::nextafter(g.MCP, 1e9);
+    while (Predeformacion(g, kSeccionRectangular), g.EPS0 == 0.002)
+        g.MCP = std::nextafter(g.MCP, 1e9);
     EXPECT_TRUE(Flexion(g).predeformacionExcesiva);
 }
 

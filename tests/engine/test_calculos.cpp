@@ -14,8 +14,8 @@ namespace {
 // A value to the decimals the reference gives, as text with a period.
 std::string A(double valor, int decimales)
 {
-    return Formato(valor, decimales == 0 ? std::string("0") : "0." + std::string(static_cast<std::size_t>(decimales), '0'),
-                   '.');
+    return Formato(
+        valor, decimales == 0 ? std::string("0") : "0." + std::string(static_cast<std::size_t>(decimales), '0'), '.');
 }
 
 // A fresh project with the start values and the flexure arrays allocated.
@@ -23,8 +23,8 @@ General ProyectoPorDefecto()
 {
     General g;
     ValoresIniciales(g);
-    for (Arreglo<double>* a : {&g.MU, &g.FN, &g.MRB, &g.XRB, &g.MLIMSR, &g.MLIMCR, &g.XLIM, &g.EPSC, &g.EPSSI,
-                               &g.EPSSS, &g.EPSR, &g.WR, &g.WWD, &g.EPSRC, &g.SIGMAR, &g.TENSCONF, &g.RESU})
+    for (Arreglo<double>* a : {&g.MU, &g.FN, &g.MRB, &g.XRB, &g.MLIMSR, &g.MLIMCR, &g.XLIM, &g.EPSC, &g.EPSSI, &g.EPSSS,
+                               &g.EPSR, &g.WR, &g.WWD, &g.EPSRC, &g.SIGMAR, &g.TENSCONF, &g.RESU})
         a->Redimensiona(g.NTIPOS, g.MAXCAPAS);
     g.PIVOTE.Redimensiona(g.NTIPOS, g.MAXCAPAS);
     g.WC.Redimensiona(g.NTIPOS);
@@ -117,7 +117,8 @@ struct FilaRotura {
 TEST(RoturaRectangular, TablaConLosValoresPorDefecto)
 {
     General g = ProyectoPorDefecto();
-    for (Entero t = 1; t <= 3; ++t) Rectangular(g, t);
+    for (Entero t = 1; t <= 3; ++t)
+        Rectangular(g, t);
     const FilaRotura filas[] = {
         {1, 1, "238.47", "0.1027", "R", "0.001991", "0.008673", "0.009643", "0.1598"},
         {1, 5, "283.96", "0.1224", "R", "0.001926", "0.006732", "0.007519", "0.1906"},
@@ -142,7 +143,8 @@ TEST(RoturaRectangular, TablaConLosValoresPorDefecto)
 TEST(RoturaRectangular, TodasLasFilasConLosValoresPorDefecto)
 {
     General g = ProyectoPorDefecto();
-    for (Entero t = 1; t <= 3; ++t) Rectangular(g, t);
+    for (Entero t = 1; t <= 3; ++t)
+        Rectangular(g, t);
     // L and H rise with every layer; X passes its peak at 2 layers and is marked from 3 on.
     for (Entero t = 1; t <= 2; ++t)
         for (int n = 2; n <= 5; ++n) {
@@ -224,7 +226,8 @@ TEST(RoturaRectangular, ResiduoInicialNuloNoBuscaYMarcaLaCapa)
     EXPECT_EQ(g.EPSC(1, 2), kDeformacionHormigon);
     EXPECT_DOUBLE_EQ(g.EPSR(1, 2), g.EPSD(2));
     EXPECT_EQ(g.PIVOTE(1, 2), "R");
-    for (int n = 3; n <= 5; ++n) EXPECT_EQ(g.MU(1, n), kSinMejora);
+    for (int n = 3; n <= 5; ++n)
+        EXPECT_EQ(g.MU(1, n), kSinMejora);
 }
 
 TEST(RoturaRectangular, ResiduoInicialNuloEnLaPrimeraCapaDejaProfundidadCero)
@@ -322,7 +325,8 @@ TEST(RoturaT, AlaDeCincoCentimetrosYCuarentaCentimetrosDeAcero)
     g.CANTOALA = 0.05;
     g.ASI = 40.0;
     SeccionT(g, 1);
-    for (int n = 1; n <= 5; ++n) EXPECT_EQ(g.PIVOTE(1, n), "B") << n;
+    for (int n = 1; n <= 5; ++n)
+        EXPECT_EQ(g.PIVOTE(1, n), "B") << n;
     EXPECT_EQ(A(g.MU(1, 1), 2), "409.41");
     EXPECT_EQ(A(g.FN(1, 1), 5), "0.40061");
     EXPECT_EQ(A(g.EPSR(1, 1), 6), "0.001742");
@@ -430,7 +434,8 @@ TEST(CalculoConfina, TablaDeIncrementosDeResistencia)
         ASSERT_EQ(g.EPS0, 0.0);
         CalculoConfina(g, f.forma, g.DIAM, g.LADOMENOR, g.FCK, f.tipo);
         for (int n = 1; n <= 5; ++n)
-            EXPECT_EQ(A(g.RESU(f.tipo, n), 5), f.resu[n - 1]) << "forma " << f.forma << ", tipo " << f.tipo << ", " << n;
+            EXPECT_EQ(A(g.RESU(f.tipo, n), 5), f.resu[n - 1])
+                << "forma " << f.forma << ", tipo " << f.tipo << ", " << n;
     }
 }
 
@@ -517,7 +522,8 @@ TEST(LongitudAnclaje, NoDependeDeLaSeccion)
     LongitudAnclaje(a);
     LongitudAnclaje(b);
     for (int t = 1; t <= 3; ++t)
-        for (int n = 1; n <= 5; ++n) EXPECT_EQ(a.LANC(t, n), b.LANC(t, n));
+        for (int n = 1; n <= 5; ++n)
+            EXPECT_EQ(a.LANC(t, n), b.LANC(t, n));
 }
 
 }  // namespace

@@ -32,10 +32,7 @@ DirectorioTemporal::~DirectorioTemporal()
     std::filesystem::remove_all(ruta_, sin_excepcion);
 }
 
-std::string DirectorioTemporal::Fichero(const std::string& nombre) const
-{
-    return (ruta_ / nombre).string();
-}
+std::string DirectorioTemporal::Fichero(const std::string& nombre) const { return (ruta_ / nombre).string(); }
 
 Aviso Avisos::Funcion()
 {

@@ -29,10 +29,7 @@ TextosFlexion FlexionInicial()
 }
 
 // A rectangular column 0.5 by 0.4 with an axial load of 1200.
-TextosConfina ConfinaInicial()
-{
-    return {"0,500", "0,400", "25", "1200,00", "1,00"};
-}
+TextosConfina ConfinaInicial() { return {"0,500", "0,400", "25", "1200,00", "1,00"}; }
 
 // The texts with some fields changed.
 template <typename Textos>

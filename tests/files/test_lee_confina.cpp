@@ -35,10 +35,7 @@ Lectura LeeTexto(const std::string& bytes, General inicial = prueba::EstadoAjeno
     return lectura;
 }
 
-Lectura LeeLineas(const std::vector<std::string>& lineas)
-{
-    return LeeTexto(ConFinDeLinea(lineas));
-}
+Lectura LeeLineas(const std::vector<std::string>& lineas) { return LeeTexto(ConFinDeLinea(lineas)); }
 
 std::vector<std::string> ConfinaCon(std::size_t linea, const std::string& texto)
 {

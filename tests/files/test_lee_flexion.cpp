@@ -40,10 +40,7 @@ Lectura LeeTexto(const std::string& bytes, General inicial = prueba::EstadoAjeno
     return lectura;
 }
 
-Lectura LeeLineas(const std::vector<std::string>& lineas)
-{
-    return LeeTexto(ConFinDeLinea(lineas));
-}
+Lectura LeeLineas(const std::vector<std::string>& lineas) { return LeeTexto(ConFinDeLinea(lineas)); }
 
 // The rectangular start file with one line changed (line numbers from 1, as in the file).
 std::vector<std::string> RectangularCon(std::size_t linea, const std::string& texto)
@@ -182,10 +179,10 @@ TEST(LeeFlexion, AnchoYAnchorNegativosPasanYSeGuardanPositivos)
 TEST(LeeFlexion, NegativosSinReglaSeGuardanPositivos)
 {
     auto lineas = LineasFlexionRectangular();
-    lineas[5] = "-3";     // ASS
-    lineas[8] = "-1.6";   // GC
+    lineas[5] = "-3";  // ASS
+    lineas[8] = "-1.6";  // GC
     lineas[12] = "-7.5";  // MCP
-    lineas[13] = "-90";   // MD
+    lineas[13] = "-90";  // MD
     const Lectura l = LeeLineas(lineas);
     EsperaAceptado(l);
     EXPECT_EQ(l.g.ASS, 3.0);
@@ -281,10 +278,7 @@ TEST(LeeFlexion, TipoEnLimitesDeDieciseisBitsNoDesborda)
 
 // --- Checks ------------------------------------------------------------------------------------
 
-TEST(LeeFlexion, AsiCeroSeRechaza)
-{
-    EsperaRechazo(LeeLineas(RectangularCon(5, "0")));
-}
+TEST(LeeFlexion, AsiCeroSeRechaza) { EsperaRechazo(LeeLineas(RectangularCon(5, "0"))); }
 
 TEST(LeeFlexion, CadaCampoQueNoPuedeSerCeroSeRechazaRectangular)
 {
@@ -355,10 +349,7 @@ TEST(LeeFlexion, AnchorIgualAlAnchoSeAcepta)
     EXPECT_EQ(l.g.ANCHOR, 0.4);
 }
 
-TEST(LeeFlexion, AnchorMayorQueElAnchoSeRechaza)
-{
-    EsperaRechazo(LeeLineas(RectangularCon(12, "0.4000001")));
-}
+TEST(LeeFlexion, AnchorMayorQueElAnchoSeRechaza) { EsperaRechazo(LeeLineas(RectangularCon(12, "0.4000001"))); }
 
 TEST(LeeFlexion, EnTAnchorSeMideContraElAlma)
 {
@@ -366,7 +357,7 @@ TEST(LeeFlexion, EnTAnchorSeMideContraElAlma)
     EsperaRechazo(LeeLineas(TCon(14, "0.2000001")));
     // An ANCHOR wider than the flange but not than the web passes.
     auto lineas = TCon(4, "0.5");  // ANCHOALMA above ANCHO 0.4
-    lineas[13] = "0.45";           // ANCHOR
+    lineas[13] = "0.45";  // ANCHOR
     const Lectura l = LeeLineas(lineas);
     EsperaAceptado(l);
     EXPECT_EQ(l.g.ANCHOR, 0.45);
@@ -380,10 +371,7 @@ TEST(LeeFlexion, RecubrimientoIgualAMedioCantoSeAcepta)
     EXPECT_EQ(l.g.RECUB, 0.3);
 }
 
-TEST(LeeFlexion, RecubrimientoMayorQueMedioCantoSeRechaza)
-{
-    EsperaRechazo(LeeLineas(RectangularCon(4, "0.3000001")));
-}
+TEST(LeeFlexion, RecubrimientoMayorQueMedioCantoSeRechaza) { EsperaRechazo(LeeLineas(RectangularCon(4, "0.3000001"))); }
 
 TEST(LeeFlexion, CantoAlaIgualAlCantoSeAcepta)
 {
@@ -392,16 +380,13 @@ TEST(LeeFlexion, CantoAlaIgualAlCantoSeAcepta)
     EXPECT_EQ(l.g.CANTOALA, 0.6);
 }
 
-TEST(LeeFlexion, CantoAlaMayorQueElCantoSeRechaza)
-{
-    EsperaRechazo(LeeLineas(TCon(5, "0.6000001")));
-}
+TEST(LeeFlexion, CantoAlaMayorQueElCantoSeRechaza) { EsperaRechazo(LeeLineas(TCon(5, "0.6000001"))); }
 
 TEST(LeeFlexion, FicheroQueFallaDosComprobacionesSeRechazaIgual)
 {
     auto lineas = RectangularCon(5, "0");  // ASI
-    lineas[6] = "70";                      // FCK
-    lineas[3] = "0.9";                     // RECUB
+    lineas[6] = "70";  // FCK
+    lineas[3] = "0.9";  // RECUB
     EsperaRechazo(LeeLineas(lineas));
 }
 
@@ -497,13 +482,13 @@ TEST(LeeFlexion, NumeroSinCeroDelanteSignoYExponente)
 {
     auto lineas = LineasFlexionRectangular();
     lineas[0] = "+1";
-    lineas[1] = ".4";        // ANCHO
-    lineas[2] = "6e-1";      // CANTO
-    lineas[3] = "+.05";      // RECUB
-    lineas[4] = "1e1";       // ASI
-    lineas[5] = "2.5D1";     // ASS
-    lineas[6] = "2.5E+1";    // FCK
-    lineas[7] = "5000e-1";   // FYK
+    lineas[1] = ".4";  // ANCHO
+    lineas[2] = "6e-1";  // CANTO
+    lineas[3] = "+.05";  // RECUB
+    lineas[4] = "1e1";  // ASI
+    lineas[5] = "2.5D1";  // ASS
+    lineas[6] = "2.5E+1";  // FCK
+    lineas[7] = "5000e-1";  // FYK
     lineas[12] = "-1.25e2";  // MCP
     const Lectura l = LeeLineas(lineas);
     EsperaAceptado(l);

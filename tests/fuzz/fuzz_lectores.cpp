@@ -39,9 +39,9 @@ constexpr Entero kFormaMinima = 1;
 constexpr Entero kFormaRectangular = 3;
 
 // The bounds of the screens' fields.
-constexpr double kLargoMinimo = 0.01;   // m
-constexpr double kLargoMaximo = 10.0;   // m
-constexpr double kAreaMinima = 0.01;    // cm²
+constexpr double kLargoMinimo = 0.01;  // m
+constexpr double kLargoMaximo = 10.0;  // m
+constexpr double kAreaMinima = 0.01;  // cm²
 constexpr double kAreaMaxima = 1000.0;  // cm²
 constexpr double kFckMinimo = 15.0;
 constexpr double kFckMaximo = 50.0;
@@ -115,25 +115,16 @@ struct Avisos {
     }
 };
 
-[[noreturn]] void Hallazgo()
-{
-    __builtin_trap();
-}
+[[noreturn]] void Hallazgo() { __builtin_trap(); }
 
 void Exige(bool condicion)
 {
     if (!condicion) Hallazgo();
 }
 
-bool Entre(double valor, double minimo, double maximo)
-{
-    return valor >= minimo && valor <= maximo;
-}
+bool Entre(double valor, double minimo, double maximo) { return valor >= minimo && valor <= maximo; }
 
-bool EsLargo(double valor)
-{
-    return Entre(valor, kLargoMinimo, kLargoMaximo);
-}
+bool EsLargo(double valor) { return Entre(valor, kLargoMinimo, kLargoMaximo); }
 
 bool CoeficientesAdmitidos(const General& g)
 {
@@ -186,10 +177,7 @@ void ExigeValoresPorDefecto(const General& g)
     Exige(g.INCR == defecto::INCR && g.NCP == defecto::NCP);
 }
 
-void ExigeFinito(double valor)
-{
-    Exige(std::isfinite(valor));
-}
+void ExigeFinito(double valor) { Exige(std::isfinite(valor)); }
 
 void ExigeFinitos(const General& g, const Arreglo<double>& valores)
 {

@@ -29,8 +29,10 @@ private slots:
     {
         // The suite runs once under a Spanish and once under an English setting.
         const QByteArray ajuste = qgetenv("LC_ALL");
-        const char esperado = ajuste.startsWith("es") ? ',' : ajuste.startsWith("en") ? '.'
-            : (QLocale::system().decimalPoint() == QStringLiteral(",") ? ',' : '.');
+        const char esperado = ajuste.startsWith("es") ? ','
+                              : ajuste.startsWith("en")
+                                  ? '.'
+                                  : (QLocale::system().decimalPoint() == QStringLiteral(",") ? ',' : '.');
         QCOMPARE(RegionalQt().SeparadorDecimal(), esperado);
         QCOMPARE(RegionalDoble().separador, esperado);
     }
@@ -77,8 +79,8 @@ private slots:
     {
         PlataformaDoble doble;
         doble.ficheros.respuestas.push_back(FicheroElegido{QStringLiteral("/tmp/viga.vmf"), QStringLiteral("/tmp")});
-        const auto elegido = ServicioFicheros().Guardar({QStringLiteral("Archivos TEXALON - Flexión|*.VMF"), 1,
-                                                         QStringLiteral("flexion.vmf")});
+        const auto elegido = ServicioFicheros().Guardar(
+            {QStringLiteral("Archivos TEXALON - Flexión|*.VMF"), 1, QStringLiteral("flexion.vmf")});
         QVERIFY(elegido.has_value());
         QCOMPARE(elegido->fichero, QStringLiteral("/tmp/viga.vmf"));
         QVERIFY(!ServicioFicheros().Abrir({}).has_value());

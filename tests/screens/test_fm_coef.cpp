@@ -27,16 +27,10 @@ constexpr double kGR = 1.333;
 const QString kNotaPlana = QStringLiteral(
     "NOTA: Se recomienda no modificar los valores de los coeficientes de seguridad establecidos por el programa.");
 
-QString Texto(const char* utf8)
-{
-    return QString::fromUtf8(utf8);
-}
+QString Texto(const char* utf8) { return QString::fromUtf8(utf8); }
 
 // The text as the machine writes it: the test data are written with a comma.
-QString ConSeparador(QString texto, char separador)
-{
-    return texto.replace(QLatin1Char(','), QLatin1Char(separador));
-}
+QString ConSeparador(QString texto, char separador) { return texto.replace(QLatin1Char(','), QLatin1Char(separador)); }
 
 }  // namespace
 

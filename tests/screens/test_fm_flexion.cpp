@@ -80,7 +80,8 @@ class PruebaFlexion : public QObject {
     QStringList Mensajes() const
     {
         QStringList lista;
-        for (const auto& m : doble_->mensajes.mostrados) lista << m.texto;
+        for (const auto& m : doble_->mensajes.mostrados)
+            lista << m.texto;
         return lista;
     }
 
@@ -309,10 +310,11 @@ private slots:
         Escribe("CO_FYK", QStringLiteral("601"));
         Escribe("CO_FYK", QStringLiteral("299"));
         QCOMPARE(Mensajes(),
-                 QStringList({QStringLiteral("La resistencia del hormigón de la sección no puede ser mayor de 50 N/mm²."),
-                              QStringLiteral("La resistencia del hormigón de la sección no puede ser menor de 15 N/mm²."),
-                              QStringLiteral("La resistencia del acero de las armaduras no puede ser mayor de 600 N/mm²."),
-                              QStringLiteral("La resistencia del acero de las armaduras no puede ser menor de 300 N/mm².")}));
+                 QStringList(
+                     {QStringLiteral("La resistencia del hormigón de la sección no puede ser mayor de 50 N/mm²."),
+                      QStringLiteral("La resistencia del hormigón de la sección no puede ser menor de 15 N/mm²."),
+                      QStringLiteral("La resistencia del acero de las armaduras no puede ser mayor de 600 N/mm²."),
+                      QStringLiteral("La resistencia del acero de las armaduras no puede ser menor de 300 N/mm².")}));
         QCOMPARE(Estado().FYK, 500.0);
     }
 
@@ -344,7 +346,8 @@ private slots:
                 QCOMPARE(r->Color(n, t), marca ? QColor(255, 255, 255) : QColor(255, 255, 0));
             }
         }
-        QCOMPARE(qobject_cast<QLabel*>(C("LB_TIPO"))->text(), QStringLiteral("Refuerzo tipo TEXALON L - Núm. capas: 1"));
+        QCOMPARE(qobject_cast<QLabel*>(C("LB_TIPO"))->text(),
+                 QStringLiteral("Refuerzo tipo TEXALON L - Núm. capas: 1"));
         QCOMPARE(Campo("TX_MU")->text(), QStringLiteral("238,5"));
         QCOMPARE(Campo("TX_MUSR")->text(), QStringLiteral("222,5"));
         QCOMPARE(Campo("TX_PIVOTE")->text(), QStringLiteral("R"));
@@ -378,7 +381,8 @@ private slots:
         QCOMPARE(info->text(), QStringLiteral(" NO SE PUEDE REFORZAR LA SECCION "));
         QCOMPARE(info->palette().color(QPalette::WindowText), QColor(255, 0, 0));
         for (int n = 1; n <= 5; ++n)
-            for (int t = 1; t <= 3; ++t) QCOMPARE(Rejilla()->Color(n, t), QColor(255, 255, 255));
+            for (int t = 1; t <= 3; ++t)
+                QCOMPARE(Rejilla()->Color(n, t), QColor(255, 255, 255));
         QCOMPARE(Campo("TX_MU")->text(), QStringLiteral("238,5"));
     }
 
@@ -388,7 +392,8 @@ private slots:
         Calcula();
         Escribe("TX_MCP", QStringLiteral("1000"));
         Calcula();
-        QCOMPARE(Mensajes(), QStringList{QStringLiteral("La predeformación de la estructura es superior al 2 por mil.")});
+        QCOMPARE(Mensajes(),
+                 QStringList{QStringLiteral("La predeformación de la estructura es superior al 2 por mil.")});
         QVERIFY(!Rejilla()->EstaActiva());
         QVERIFY(Estado().F_CALCULANDO);
         QVERIFY(!Estado().F_CALCULADO);
@@ -447,7 +452,8 @@ private slots:
         QCOMPARE(Campo("TX_CANTOALA")->text(), QStringLiteral("0,200"));
         Estado().ANCHO = 0.5;
         Escribe("TX_ANCHOALMA", QStringLiteral("0"));
-        QCOMPARE(Mensajes().last(), QStringLiteral("El ancho del alma de la sección debe ser un número mayor que cero."));
+        QCOMPARE(Mensajes().last(),
+                 QStringLiteral("El ancho del alma de la sección debe ser un número mayor que cero."));
         QCOMPARE(Estado().ANCHO, 0.2);
         QCOMPARE(Estado().ANCHOALMA, 0.2);
         Escribe("TX_ANCHOALMA", QStringLiteral("0,25"));
@@ -462,7 +468,8 @@ private slots:
     {
         Abre(true);
         Escribe("TX_CANTOALA", QStringLiteral("0,7"));
-        QCOMPARE(Mensajes(), QStringList{QStringLiteral("El canto del ala no puede ser mayor que el canto de la sección.")});
+        QCOMPARE(Mensajes(),
+                 QStringList{QStringLiteral("El canto del ala no puede ser mayor que el canto de la sección.")});
         QCOMPARE(Estado().CANTOALA, 0.2);
     }
 
@@ -470,7 +477,8 @@ private slots:
     {
         Abre(true);
         Escribe("TX_CANTO", QStringLiteral("0,15"));
-        QCOMPARE(Mensajes(), QStringList{QStringLiteral("El canto del ala no puede ser mayor que el canto de la sección.")});
+        QCOMPARE(Mensajes(),
+                 QStringList{QStringLiteral("El canto del ala no puede ser mayor que el canto de la sección.")});
         QCOMPARE(Estado().CANTO, 0.15);
         QVERIFY(Campo("TX_CANTOALA")->hasFocus());
     }
@@ -523,7 +531,8 @@ private slots:
         std::stringstream contenido;
         contenido << leido.rdbuf();
         QCOMPARE(QString::fromStdString(contenido.str()),
-                 QStringLiteral("1\r\n0.4\r\n0.6\r\n0.05\r\n10\r\n0\r\n25\r\n500\r\n1.5\r\n1.15\r\n1.4\r\n0.125\r\n0\r\n0\r\n"));
+                 QStringLiteral(
+                     "1\r\n0.4\r\n0.6\r\n0.05\r\n10\r\n0\r\n25\r\n500\r\n1.5\r\n1.15\r\n1.4\r\n0.125\r\n0\r\n0\r\n"));
         QFile::remove(fichero);
     }
 
@@ -601,8 +610,8 @@ private slots:
         doble_->mensajes.mostrados.clear();
         EscribeYSal(nombre.constData(), QStringLiteral("0,01"));
         QVERIFY2(Mensajes().isEmpty(), qPrintable(Mensajes().join(QLatin1Char('|'))));
-        QCOMPARE(TextoDe(C(nombre.constData())), control.startsWith(QLatin1String("TX_AS")) ? QStringLiteral("0,01")
-                                                                                            : QStringLiteral("0,010"));
+        QCOMPARE(TextoDe(C(nombre.constData())),
+                 control.startsWith(QLatin1String("TX_AS")) ? QStringLiteral("0,01") : QStringLiteral("0,010"));
         EscribeYSal(nombre.constData(), QStringLiteral("0,011"));
         QVERIFY(Mensajes().isEmpty());
     }
@@ -679,10 +688,12 @@ private slots:
         Calcula();
         Estado().F_CALCULANDO = true;
         Rejilla()->CeldaActual(2, 2);
-        QCOMPARE(qobject_cast<QLabel*>(C("LB_TIPO"))->text(), QStringLiteral("Refuerzo tipo TEXALON L - Núm. capas: 1"));
+        QCOMPARE(qobject_cast<QLabel*>(C("LB_TIPO"))->text(),
+                 QStringLiteral("Refuerzo tipo TEXALON L - Núm. capas: 1"));
         Estado().F_CALCULANDO = false;
         Rejilla()->CeldaActual(3, 2);
-        QCOMPARE(qobject_cast<QLabel*>(C("LB_TIPO"))->text(), QStringLiteral("Refuerzo tipo TEXALON H - Núm. capas: 3"));
+        QCOMPARE(qobject_cast<QLabel*>(C("LB_TIPO"))->text(),
+                 QStringLiteral("Refuerzo tipo TEXALON H - Núm. capas: 3"));
     }
 
     void calcularConElTeclado()
@@ -699,7 +710,7 @@ private slots:
     {
         Abre(true);
         const char* orden[] = {"TX_ANCHO", "TX_ANCHOALMA", "TX_CANTO", "TX_CANTOALA", "TX_RECUB", "TX_ASI",
-                               "TX_ASS", "TX_MCP", "TX_MD", "CO_FCK", "CO_FYK", "CO_ANCHOR"};
+                               "TX_ASS",   "TX_MCP",       "TX_MD",    "CO_FCK",      "CO_FYK",   "CO_ANCHOR"};
         C(orden[0])->setFocus();
         QTRY_VERIFY(C(orden[0])->hasFocus());
         for (std::size_t i = 1; i < std::size(orden); ++i) {
@@ -726,8 +737,10 @@ private slots:
                 << reinicio;
         };
         for (bool t : {false, true}) {
-            fila(t, "TX_ANCHO", "Debe darse el ancho de la sección.", "El ancho de la sección debe ser un número.", 0.4);
-            fila(t, "TX_CANTO", "Debe darse el canto de la sección.", "El canto de la sección debe ser un número.", 0.6);
+            fila(t, "TX_ANCHO", "Debe darse el ancho de la sección.", "El ancho de la sección debe ser un número.",
+                 0.4);
+            fila(t, "TX_CANTO", "Debe darse el canto de la sección.", "El canto de la sección debe ser un número.",
+                 0.6);
             fila(t, "TX_RECUB", "Debe darse el recubrimiento de la sección.",
                  "El recubrimiento de la sección debe ser un número.", 0.05);
             fila(t, "TX_ASI", "Debe darse la armadura inferior de la sección.",
@@ -766,12 +779,19 @@ private slots:
         for (const QString& texto : {QString(), QStringLiteral("12a"), QStringLiteral("   ")}) {
             // A state value away from the reset shows that the failure writes the reset.
             double General::*campo = nullptr;
-            for (const auto& [n, c] : std::initializer_list<std::pair<const char*, double General::*>>{
-                     {"TX_ANCHO", &General::ANCHO}, {"TX_CANTO", &General::CANTO}, {"TX_RECUB", &General::RECUB},
-                     {"TX_ASI", &General::ASI}, {"TX_ASS", &General::ASS}, {"TX_MCP", &General::MCP},
-                     {"TX_MD", &General::MD}, {"CO_FCK", &General::FCK}, {"CO_FYK", &General::FYK},
-                     {"CO_ANCHOR", &General::ANCHOR}, {"TX_ANCHOALMA", &General::ANCHOALMA},
-                     {"TX_CANTOALA", &General::CANTOALA}})
+            for (const auto& [n, c] :
+                 std::initializer_list<std::pair<const char*, double General::*>>{{"TX_ANCHO", &General::ANCHO},
+                                                                                  {"TX_CANTO", &General::CANTO},
+                                                                                  {"TX_RECUB", &General::RECUB},
+                                                                                  {"TX_ASI", &General::ASI},
+                                                                                  {"TX_ASS", &General::ASS},
+                                                                                  {"TX_MCP", &General::MCP},
+                                                                                  {"TX_MD", &General::MD},
+                                                                                  {"CO_FCK", &General::FCK},
+                                                                                  {"CO_FYK", &General::FYK},
+                                                                                  {"CO_ANCHOR", &General::ANCHOR},
+                                                                                  {"TX_ANCHOALMA", &General::ANCHOALMA},
+                                                                                  {"TX_CANTOALA", &General::CANTOALA}})
                 if (control == QLatin1String(n)) campo = c;
             Estado().*campo = 0.123;
             doble_->mensajes.mostrados.clear();

@@ -7,7 +7,6 @@
 #include <QDialog>
 #include <QLabel>
 #include <QLineEdit>
-#include <QDialog>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QMenu>
@@ -196,19 +195,22 @@ private slots:
         QCOMPARE(menus[2]->text(), QStringLiteral("&Ayuda"));
         const auto nombres = [](QMenu* menu) {
             QStringList lista;
-            for (QAction* a : menu->actions()) lista << a->objectName();
+            for (QAction* a : menu->actions())
+                lista << a->objectName();
             return lista;
         };
-        QCOMPARE(nombres(menus[0]->menu()),
-                 QStringList({"mnuPrincipalAbrir", "mnuPrincipalGuardar", "mnuPrincipalGuardarcomo", "mnuPrincipalNada1",
-                              "mnuPrincipalImprimir", "mnuPrincipalConfigurar", "mnuPrincipalNada2", "mnuPrincipalSalir"}));
-        QCOMPARE(nombres(menus[1]->menu()), QStringList({"mnuCalcularFlexion", "mnuCalcularFlexionT", "mnuCalcularConfina",
-                                                         "mnuCalcularNada1", "mnuCalcularCarac"}));
+        QCOMPARE(
+            nombres(menus[0]->menu()),
+            QStringList({"mnuPrincipalAbrir", "mnuPrincipalGuardar", "mnuPrincipalGuardarcomo", "mnuPrincipalNada1",
+                         "mnuPrincipalImprimir", "mnuPrincipalConfigurar", "mnuPrincipalNada2", "mnuPrincipalSalir"}));
+        QCOMPARE(nombres(menus[1]->menu()),
+                 QStringList({"mnuCalcularFlexion", "mnuCalcularFlexionT", "mnuCalcularConfina", "mnuCalcularNada1",
+                              "mnuCalcularCarac"}));
         QCOMPARE(nombres(menus[2]->menu()),
                  QStringList({"mnuAyudaPrograma", "mnuAyudaManual", "mnuAyudaNada1", "mnuAyudaWeb", "mnuAyudaContactar",
                               "mnuAyudaNada2", "mnuAyudaAcerca"}));
-        for (const char* separador : {"mnuPrincipalNada1", "mnuPrincipalNada2", "mnuCalcularNada1", "mnuAyudaNada1",
-                                      "mnuAyudaNada2"})
+        for (const char* separador :
+             {"mnuPrincipalNada1", "mnuPrincipalNada2", "mnuCalcularNada1", "mnuAyudaNada1", "mnuAyudaNada2"})
             QVERIFY(w.ElementoMenu(QString::fromLatin1(separador))->isSeparator());
     }
 
@@ -217,12 +219,20 @@ private slots:
         MdiPrincipal& w = Arranca();
         QCOMPARE(w.Barra()->objectName(), QStringLiteral("TB_BARRA"));
         QVERIFY(w.Boton(1)->isSeparator());
-        const QStringList claves = {"Abrir", "Guardar", "Imprimir", "Carac", "FlexionR", "FlexionT",
-                                    "Confina", "Ayuda", "Guia", "Web", "Mail", "Info"};
-        const QStringList consejos = {"Abrir", "Guardar", "Imprimir", "Características mecánicas",
-                                      "Refuerzo a flexión. Sección rectangular", "Refuerzo a flexión. Sección en T",
-                                      "Refuerzo de confinamiento", "Ayuda del programa", "Manual de referencia",
-                                      "Velmora en la web", "Contactar con Velmora", "Acerca de..."};
+        const QStringList claves = {"Abrir",   "Guardar", "Imprimir", "Carac", "FlexionR", "FlexionT",
+                                    "Confina", "Ayuda",   "Guia",     "Web",   "Mail",     "Info"};
+        const QStringList consejos = {"Abrir",
+                                      "Guardar",
+                                      "Imprimir",
+                                      "Características mecánicas",
+                                      "Refuerzo a flexión. Sección rectangular",
+                                      "Refuerzo a flexión. Sección en T",
+                                      "Refuerzo de confinamiento",
+                                      "Ayuda del programa",
+                                      "Manual de referencia",
+                                      "Velmora en la web",
+                                      "Contactar con Velmora",
+                                      "Acerca de..."};
         QCOMPARE(w.Barra()->actions().size(), 13);
         for (int i = 0; i < 12; ++i) {
             QAction* boton = w.Boton(i + 2);
@@ -234,7 +244,8 @@ private slots:
         QCOMPARE(w.Boton(4)->data().toString(), QStringLiteral("Imprimir"));
         QVERIFY(!w.Boton(3)->isEnabled());
         QVERIFY(!w.Boton(4)->isEnabled());
-        for (int i = 5; i <= 13; ++i) QVERIFY(w.Boton(i)->isEnabled());
+        for (int i = 5; i <= 13; ++i)
+            QVERIFY(w.Boton(i)->isEnabled());
         QVERIFY(w.Boton(2)->isEnabled());
     }
 
@@ -506,7 +517,8 @@ private slots:
         doble_->mensajes.alMostrar = [&](const MensajeMostrado&) { nuevaYaAbierta = Estado().F_FLEXIONT; };
         w.NuevaFlexionT();
         QCOMPARE(doble_->mensajes.mostrados.size(), std::size_t{1});
-        QCOMPARE(doble_->mensajes.mostrados[0].texto, QStringLiteral("Los datos no se han grabado, ¿desea grabar los datos?"));
+        QCOMPARE(doble_->mensajes.mostrados[0].texto,
+                 QStringLiteral("Los datos no se han grabado, ¿desea grabar los datos?"));
         QVERIFY(!nuevaYaAbierta);
         QVERIFY(!Estado().F_FLEXION);
         QVERIFY(Estado().F_FLEXIONT);
@@ -602,13 +614,17 @@ private slots:
     void menuYBarraSiguenALaPantallaActiva()
     {
         MdiPrincipal& w = Arranca();
-        const auto activo = [&w](const char* nombre) { return w.ElementoMenu(QString::fromLatin1(nombre))->isEnabled(); };
+        const auto activo = [&w](const char* nombre) {
+            return w.ElementoMenu(QString::fromLatin1(nombre))->isEnabled();
+        };
         for (Pantalla p : {Pantalla::Flexion, Pantalla::FlexionT, Pantalla::Confina}) {
             w.PantallaActivada(p);
-            QVERIFY(activo("mnuPrincipalGuardar") && activo("mnuPrincipalGuardarcomo") && activo("mnuPrincipalImprimir"));
+            QVERIFY(activo("mnuPrincipalGuardar") && activo("mnuPrincipalGuardarcomo") &&
+                    activo("mnuPrincipalImprimir"));
             QVERIFY(w.Boton(3)->isEnabled() && w.Boton(4)->isEnabled());
             w.PantallaDescargada();
-            QVERIFY(!activo("mnuPrincipalGuardar") && !activo("mnuPrincipalGuardarcomo") && !activo("mnuPrincipalImprimir"));
+            QVERIFY(!activo("mnuPrincipalGuardar") && !activo("mnuPrincipalGuardarcomo") &&
+                    !activo("mnuPrincipalImprimir"));
             QVERIFY(!w.Boton(3)->isEnabled() && !w.Boton(4)->isEnabled());
         }
     }

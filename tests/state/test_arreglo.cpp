@@ -19,7 +19,8 @@ TEST(Arreglo, UnaDimensionCuentaDesdeUno)
     Arreglo<double> a;
     a.Redimensiona(5);
     EXPECT_EQ(a.Filas(), 5);
-    for (int i = 1; i <= 5; ++i) a(i) = i * 10.0;
+    for (int i = 1; i <= 5; ++i)
+        a(i) = i * 10.0;
     EXPECT_EQ(a(1), 10.0);
     EXPECT_EQ(a(5), 50.0);
 }

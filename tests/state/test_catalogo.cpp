@@ -65,10 +65,8 @@ struct FilaTabla {
 
 // The design strain table with the default GR of 1.4, to six decimals.
 constexpr FilaTabla kTabla[] = {
-    {1, {900000, 900000, 832430}, {9643, 9643, 3270}},
-    {2, {880701, 820514, 664860}, {9436, 8791, 2612}},
-    {3, {821051, 730771, 497304}, {8797, 7830, 1954}},
-    {4, {761402, 641028, 372978}, {8158, 6868, 1465}},
+    {1, {900000, 900000, 832430}, {9643, 9643, 3270}}, {2, {880701, 820514, 664860}, {9436, 8791, 2612}},
+    {3, {821051, 730771, 497304}, {8797, 7830, 1954}}, {4, {761402, 641028, 372978}, {8158, 6868, 1465}},
     {5, {701752, 551285, 298383}, {7519, 5907, 1172}},
 };
 
@@ -82,7 +80,8 @@ TEST_F(Catalogo, TablaDeDeformacionDeCalculoConGrPorDefecto)
         for (const FilaTabla& fila : kTabla) {
             const auto columna = static_cast<std::size_t>(tipo - 1);
             EXPECT_EQ(Millonesimas(g.KM(fila.capas)), fila.km[columna]) << "tipo " << tipo << ", capas " << fila.capas;
-            EXPECT_EQ(Millonesimas(g.EPSD(fila.capas)), fila.epsd[columna]) << "tipo " << tipo << ", capas " << fila.capas;
+            EXPECT_EQ(Millonesimas(g.EPSD(fila.capas)), fila.epsd[columna])
+                << "tipo " << tipo << ", capas " << fila.capas;
         }
     }
 }

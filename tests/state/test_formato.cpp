@@ -13,50 +13,23 @@ namespace {
 
 // --- Formato, decimal comma ----------------------------------------------------
 
-TEST(FormatoComa, MitadDeCentesimaSubeLejosDelCero)
-{
-    EXPECT_EQ(Formato(0.125, "0.00", ','), "0,13");
-}
+TEST(FormatoComa, MitadDeCentesimaSubeLejosDelCero) { EXPECT_EQ(Formato(0.125, "0.00", ','), "0,13"); }
 
-TEST(FormatoComa, MitadSinDecimalesSube)
-{
-    EXPECT_EQ(Formato(2.5, "0", ','), "3");
-}
+TEST(FormatoComa, MitadSinDecimalesSube) { EXPECT_EQ(Formato(2.5, "0", ','), "3"); }
 
-TEST(FormatoComa, MitadNegativaSinDecimalesBaja)
-{
-    EXPECT_EQ(Formato(-2.5, "0", ','), "-3");
-}
+TEST(FormatoComa, MitadNegativaSinDecimalesBaja) { EXPECT_EQ(Formato(-2.5, "0", ','), "-3"); }
 
-TEST(FormatoComa, DosSeisSieteCincoRedondeaEnDecimal)
-{
-    EXPECT_EQ(Formato(2.675, "0.00", ','), "2,68");
-}
+TEST(FormatoComa, DosSeisSieteCincoRedondeaEnDecimal) { EXPECT_EQ(Formato(2.675, "0.00", ','), "2,68"); }
 
-TEST(FormatoComa, UnoCeroCeroCincoRedondeaEnDecimal)
-{
-    EXPECT_EQ(Formato(1.005, "0.00", ','), "1,01");
-}
+TEST(FormatoComa, UnoCeroCeroCincoRedondeaEnDecimal) { EXPECT_EQ(Formato(1.005, "0.00", ','), "1,01"); }
 
-TEST(FormatoComa, CompletaConCeros)
-{
-    EXPECT_EQ(Formato(0.4, "0.000", ','), "0,400");
-}
+TEST(FormatoComa, CompletaConCeros) { EXPECT_EQ(Formato(0.4, "0.000", ','), "0,400"); }
 
-TEST(FormatoComa, AcarreoAgregaCifraEntera)
-{
-    EXPECT_EQ(Formato(9.995, "0.00", ','), "10,00");
-}
+TEST(FormatoComa, AcarreoAgregaCifraEntera) { EXPECT_EQ(Formato(9.995, "0.00", ','), "10,00"); }
 
-TEST(FormatoComa, MitadDeMilesimaSube)
-{
-    EXPECT_EQ(Formato(0.0005, "0.000", ','), "0,001");
-}
+TEST(FormatoComa, MitadDeMilesimaSube) { EXPECT_EQ(Formato(0.0005, "0.000", ','), "0,001"); }
 
-TEST(FormatoComa, NegativoQueRedondeaACeroSinSigno)
-{
-    EXPECT_EQ(Formato(-0.001, "0.00", ','), "0,00");
-}
+TEST(FormatoComa, NegativoQueRedondeaACeroSinSigno) { EXPECT_EQ(Formato(-0.001, "0.00", ','), "0,00"); }
 
 TEST(FormatoComa, CeroEnCadaPatron)
 {
@@ -67,77 +40,35 @@ TEST(FormatoComa, CeroEnCadaPatron)
     EXPECT_EQ(Formato(0.0, "0.000000", ','), "0,000000");
 }
 
-TEST(FormatoComa, CeroNegativoSinSigno)
-{
-    EXPECT_EQ(Formato(-0.0, "0.0", ','), "0,0");
-}
+TEST(FormatoComa, CeroNegativoSinSigno) { EXPECT_EQ(Formato(-0.0, "0.0", ','), "0,0"); }
 
-TEST(FormatoComa, ValorGrandeSinSeparadorDeMiles)
-{
-    EXPECT_EQ(Formato(1234567.891, "0.00", ','), "1234567,89");
-}
+TEST(FormatoComa, ValorGrandeSinSeparadorDeMiles) { EXPECT_EQ(Formato(1234567.891, "0.00", ','), "1234567,89"); }
 
-TEST(FormatoComa, ValorEnormeMuestraTodasLasCifras)
-{
-    EXPECT_EQ(Formato(1e20, "0", ','), "100000000000000000000");
-}
+TEST(FormatoComa, ValorEnormeMuestraTodasLasCifras) { EXPECT_EQ(Formato(1e20, "0", ','), "100000000000000000000"); }
 
-TEST(FormatoComa, SeisDecimales)
-{
-    EXPECT_EQ(Formato(3.14159265, "0.000000", ','), "3,141593");
-}
+TEST(FormatoComa, SeisDecimales) { EXPECT_EQ(Formato(3.14159265, "0.000000", ','), "3,141593"); }
 
-TEST(FormatoComa, UnDecimalNegativo)
-{
-    EXPECT_EQ(Formato(-12.34, "0.0", ','), "-12,3");
-}
+TEST(FormatoComa, UnDecimalNegativo) { EXPECT_EQ(Formato(-12.34, "0.0", ','), "-12,3"); }
 
 // --- Formato, decimal period ---------------------------------------------------
 
-TEST(FormatoPunto, MitadDeCentesimaSubeLejosDelCero)
-{
-    EXPECT_EQ(Formato(0.125, "0.00", '.'), "0.13");
-}
+TEST(FormatoPunto, MitadDeCentesimaSubeLejosDelCero) { EXPECT_EQ(Formato(0.125, "0.00", '.'), "0.13"); }
 
-TEST(FormatoPunto, MitadSinDecimalesSube)
-{
-    EXPECT_EQ(Formato(2.5, "0", '.'), "3");
-}
+TEST(FormatoPunto, MitadSinDecimalesSube) { EXPECT_EQ(Formato(2.5, "0", '.'), "3"); }
 
-TEST(FormatoPunto, MitadNegativaSinDecimalesBaja)
-{
-    EXPECT_EQ(Formato(-2.5, "0", '.'), "-3");
-}
+TEST(FormatoPunto, MitadNegativaSinDecimalesBaja) { EXPECT_EQ(Formato(-2.5, "0", '.'), "-3"); }
 
-TEST(FormatoPunto, DosSeisSieteCincoRedondeaEnDecimal)
-{
-    EXPECT_EQ(Formato(2.675, "0.00", '.'), "2.68");
-}
+TEST(FormatoPunto, DosSeisSieteCincoRedondeaEnDecimal) { EXPECT_EQ(Formato(2.675, "0.00", '.'), "2.68"); }
 
-TEST(FormatoPunto, UnoCeroCeroCincoRedondeaEnDecimal)
-{
-    EXPECT_EQ(Formato(1.005, "0.00", '.'), "1.01");
-}
+TEST(FormatoPunto, UnoCeroCeroCincoRedondeaEnDecimal) { EXPECT_EQ(Formato(1.005, "0.00", '.'), "1.01"); }
 
-TEST(FormatoPunto, CompletaConCeros)
-{
-    EXPECT_EQ(Formato(0.4, "0.000", '.'), "0.400");
-}
+TEST(FormatoPunto, CompletaConCeros) { EXPECT_EQ(Formato(0.4, "0.000", '.'), "0.400"); }
 
-TEST(FormatoPunto, AcarreoAgregaCifraEntera)
-{
-    EXPECT_EQ(Formato(9.995, "0.00", '.'), "10.00");
-}
+TEST(FormatoPunto, AcarreoAgregaCifraEntera) { EXPECT_EQ(Formato(9.995, "0.00", '.'), "10.00"); }
 
-TEST(FormatoPunto, MitadDeMilesimaSube)
-{
-    EXPECT_EQ(Formato(0.0005, "0.000", '.'), "0.001");
-}
+TEST(FormatoPunto, MitadDeMilesimaSube) { EXPECT_EQ(Formato(0.0005, "0.000", '.'), "0.001"); }
 
-TEST(FormatoPunto, NegativoQueRedondeaACeroSinSigno)
-{
-    EXPECT_EQ(Formato(-0.001, "0.00", '.'), "0.00");
-}
+TEST(FormatoPunto, NegativoQueRedondeaACeroSinSigno) { EXPECT_EQ(Formato(-0.001, "0.00", '.'), "0.00"); }
 
 TEST(FormatoPunto, CeroEnCadaPatron)
 {
@@ -148,30 +79,15 @@ TEST(FormatoPunto, CeroEnCadaPatron)
     EXPECT_EQ(Formato(0.0, "0.000000", '.'), "0.000000");
 }
 
-TEST(FormatoPunto, CeroNegativoSinSigno)
-{
-    EXPECT_EQ(Formato(-0.0, "0.0", '.'), "0.0");
-}
+TEST(FormatoPunto, CeroNegativoSinSigno) { EXPECT_EQ(Formato(-0.0, "0.0", '.'), "0.0"); }
 
-TEST(FormatoPunto, ValorGrandeSinSeparadorDeMiles)
-{
-    EXPECT_EQ(Formato(1234567.891, "0.00", '.'), "1234567.89");
-}
+TEST(FormatoPunto, ValorGrandeSinSeparadorDeMiles) { EXPECT_EQ(Formato(1234567.891, "0.00", '.'), "1234567.89"); }
 
-TEST(FormatoPunto, ValorEnormeMuestraTodasLasCifras)
-{
-    EXPECT_EQ(Formato(1e20, "0", '.'), "100000000000000000000");
-}
+TEST(FormatoPunto, ValorEnormeMuestraTodasLasCifras) { EXPECT_EQ(Formato(1e20, "0", '.'), "100000000000000000000"); }
 
-TEST(FormatoPunto, SeisDecimales)
-{
-    EXPECT_EQ(Formato(3.14159265, "0.000000", '.'), "3.141593");
-}
+TEST(FormatoPunto, SeisDecimales) { EXPECT_EQ(Formato(3.14159265, "0.000000", '.'), "3.141593"); }
 
-TEST(FormatoPunto, UnDecimalNegativo)
-{
-    EXPECT_EQ(Formato(-12.34, "0.0", '.'), "-12.3");
-}
+TEST(FormatoPunto, UnDecimalNegativo) { EXPECT_EQ(Formato(-12.34, "0.0", '.'), "-12.3"); }
 
 // --- Formato, general ---------------------------------------------------------
 
@@ -182,10 +98,7 @@ TEST(Formato, MenosDeMediaUnidadDaCero)
     EXPECT_EQ(Formato(1e-300, "0.00", ','), "0,00");
 }
 
-TEST(Formato, NegativoQueSubeAUnaUnidad)
-{
-    EXPECT_EQ(Formato(-0.0005, "0.000", ','), "-0,001");
-}
+TEST(Formato, NegativoQueSubeAUnaUnidad) { EXPECT_EQ(Formato(-0.0005, "0.000", ','), "-0,001"); }
 
 TEST(Formato, QuinceDecimales)
 {
@@ -215,30 +128,15 @@ TEST(Formato, PatronDesconocidoLanzaExcepcion)
 
 // --- FormatoTexto -------------------------------------------------------------
 
-TEST(FormatoTexto, RellenaConBlancosALaIzquierda)
-{
-    EXPECT_EQ(FormatoTexto("12", "@@@@"), "  12");
-}
+TEST(FormatoTexto, RellenaConBlancosALaIzquierda) { EXPECT_EQ(FormatoTexto("12", "@@@@"), "  12"); }
 
-TEST(FormatoTexto, UnCaracterEnDosLugares)
-{
-    EXPECT_EQ(FormatoTexto("3", "@@"), " 3");
-}
+TEST(FormatoTexto, UnCaracterEnDosLugares) { EXPECT_EQ(FormatoTexto("3", "@@"), " 3"); }
 
-TEST(FormatoTexto, TextoMasLargoSeDevuelveEntero)
-{
-    EXPECT_EQ(FormatoTexto("12345", "@@@@"), "12345");
-}
+TEST(FormatoTexto, TextoMasLargoSeDevuelveEntero) { EXPECT_EQ(FormatoTexto("12345", "@@@@"), "12345"); }
 
-TEST(FormatoTexto, TextoDelMismoLargoQuedaIgual)
-{
-    EXPECT_EQ(FormatoTexto("1234", "@@@@"), "1234");
-}
+TEST(FormatoTexto, TextoDelMismoLargoQuedaIgual) { EXPECT_EQ(FormatoTexto("1234", "@@@@"), "1234"); }
 
-TEST(FormatoTexto, TextoVacioDaSoloBlancos)
-{
-    EXPECT_EQ(FormatoTexto("", "@@@"), "   ");
-}
+TEST(FormatoTexto, TextoVacioDaSoloBlancos) { EXPECT_EQ(FormatoTexto("", "@@@"), "   "); }
 
 TEST(FormatoTexto, CuentaCaracteresNoBytes)
 {

@@ -47,9 +47,9 @@ TEST(General, ArranqueNoCreaNingunArregloDeResultados)
 {
     General g;
     ValoresIniciales(g);
-    for (const Arreglo<double>* arreglo : {&g.MU, &g.FN, &g.MRB, &g.XRB, &g.MLIMSR, &g.MLIMCR, &g.XLIM, &g.EPSC,
-                                           &g.EPSSI, &g.EPSSS, &g.EPSR, &g.WR, &g.WC, &g.WWD, &g.EPSRC, &g.SIGMAR,
-                                           &g.TENSCONF, &g.RESU, &g.LANC, &g.KM, &g.EPSD})
+    for (const Arreglo<double>* arreglo :
+         {&g.MU, &g.FN, &g.MRB, &g.XRB,   &g.MLIMSR, &g.MLIMCR,   &g.XLIM, &g.EPSC, &g.EPSSI, &g.EPSSS, &g.EPSR,
+          &g.WR, &g.WC, &g.WWD, &g.EPSRC, &g.SIGMAR, &g.TENSCONF, &g.RESU, &g.LANC, &g.KM,    &g.EPSD})
         EXPECT_FALSE(arreglo->Existe());
     EXPECT_FALSE(g.PIVOTE.Existe());
     EXPECT_THROW(g.MU(1, 1), ErrorEjecucion);
