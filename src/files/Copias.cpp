@@ -21,20 +21,6 @@ enum class Seccion { kRectangular, kT };
 // ---------------------------------------------------------------------------------------------
 // Reading the fields.
 
-// The blanks that the numeric test lets stand around a number.
-bool EsBlanco(char c) { return c == ' ' || c == '\t'; }
-
-std::string_view Recorta(std::string_view texto)
-{
-    std::size_t inicio = 0;
-    std::size_t fin = texto.size();
-    while (inicio < fin && EsBlanco(texto[inicio]))
-        ++inicio;
-    while (fin > inicio && EsBlanco(texto[fin - 1]))
-        --fin;
-    return texto.substr(inicio, fin - inicio);
-}
-
 // The fields of one screen, each text with the local that receives its value, in the order
 // they are tested and converted.
 class Campos {
@@ -54,7 +40,7 @@ public:
             if (!EsNumerico(*lista_[i].texto)) return false;
         }
         for (std::size_t i = 0; i < cuantos_; ++i)
-            *lista_[i].valor = std::fabs(Decimales(Recorta(*lista_[i].texto)));
+            *lista_[i].valor = std::fabs(Decimales(Recortado(*lista_[i].texto)));
         return true;
     }
 

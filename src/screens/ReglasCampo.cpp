@@ -9,14 +9,6 @@ namespace texalon {
 
 namespace {
 
-std::string_view Recortado(std::string_view texto)
-{
-    const auto desde = texto.find_first_not_of(" \t");
-    if (desde == std::string_view::npos) return {};
-    const auto hasta = texto.find_last_not_of(" \t");
-    return texto.substr(desde, hasta - desde + 1);
-}
-
 ResultadoCampo Rechazo(General& g, CampoEstado campo, double reinicio, std::string mensaje)
 {
     // The control keeps its wrong text; the state holds the reset until the field is mended.

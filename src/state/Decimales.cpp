@@ -21,16 +21,7 @@ bool EsBlancoLectura(char c) { return c == ' ' || c == '\t' || c == '\n'; }
 bool EsExponente(char c) { return c == 'E' || c == 'e' || c == 'D' || c == 'd'; }
 
 // Length of the text once leading and trailing blanks are trimmed.
-std::size_t LargoRecortado(std::string_view texto)
-{
-    std::size_t ini = 0;
-    std::size_t fin = texto.size();
-    while (ini < fin && EsBlancoBorde(texto[ini]))
-        ++ini;
-    while (fin > ini && EsBlancoBorde(texto[fin - 1]))
-        --fin;
-    return fin - ini;
-}
+std::size_t LargoRecortado(std::string_view texto) { return Recortado(texto).size(); }
 
 // Walks a text skipping the blanks the plain reading ignores.
 class Lector {
@@ -117,6 +108,17 @@ double LecturaSimple(std::string_view texto)
         valor = escala > 0 ? HUGE_VAL : 0.0;
     }
     return negativo ? -valor : valor;
+}
+
+std::string_view Recortado(std::string_view texto)
+{
+    std::size_t ini = 0;
+    std::size_t fin = texto.size();
+    while (ini < fin && EsBlancoBorde(texto[ini]))
+        ++ini;
+    while (fin > ini && EsBlancoBorde(texto[fin - 1]))
+        --fin;
+    return texto.substr(ini, fin - ini);
 }
 
 double Decimales(std::string_view texto)

@@ -6,6 +6,10 @@
 
 namespace texalon {
 
+// The text without the blanks (spaces, tabs) before and after it: every caller of Decimales
+// passes the text so.
+std::string_view Recortado(std::string_view texto);
+
 // Value of a field's text. The text is cut to the length it has once its
 // leading and trailing blanks are trimmed (note: the cut is taken from the
 // untrimmed text), each comma becomes a period and the result is read as a

@@ -2,6 +2,7 @@
 // the procedures show, and the value lists of the worked examples.
 #pragma once
 
+#include "comun/Proyectos.h"
 #include "files/Ficheros.h"
 #include "state/General.h"
 
@@ -50,12 +51,7 @@ std::vector<std::string> LineasFlexionT();
 // The rectangular column 0.5 by 0.4 with an axial load of 1200.
 std::vector<std::string> LineasConfinaRectangular();
 
-// A state whose project values all differ from the defaults, to see what a reader changes.
-General EstadoAjeno();
-
 // Expectations on whole groups of fields.
-void EsperaValoresFlexion(const General& g);
-void EsperaValoresConfinamiento(const General& g);
 void EsperaMismosValoresFlexion(const General& esperado, const General& g);
 void EsperaMismosValoresConfinamiento(const General& esperado, const General& g);
 

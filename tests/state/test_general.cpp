@@ -1,5 +1,7 @@
 #include "state/General.h"
 
+#include "comun/Proyectos.h"
+
 #include <gtest/gtest.h>
 
 #include <string>
@@ -76,112 +78,54 @@ TEST(General, ArranqueNoTocaLasBanderas)
     EXPECT_FALSE(g.F_NUEVO);
 }
 
-// A project in hand with every field away from its default.
-General ProyectoModificado()
-{
-    General g;
-    ValoresIniciales(g);
-    g.GC = 1.6;
-    g.GS = 1.2;
-    g.GR = 1.3;
-    g.FCK = 30;
-    g.FYK = 400;
-    g.NU = 0.3;
-    g.ANCHO = 0.3;
-    g.CANTO = 0.7;
-    g.ANCHOALMA = 0.25;
-    g.CANTOALA = 0.15;
-    g.RECUB = 0.04;
-    g.ASI = 12;
-    g.ASS = 3;
-    g.ANCHOR = 0.1;
-    g.EPS0 = 0.0004;
-    g.MD = 150;
-    g.MCP = 40;
-    g.SECCION = 3;
-    g.DIAM = 0.6;
-    g.LADOMENOR = 0.3;
-    g.INCR = 1.4;
-    g.NCP = 1200;
-    return g;
-}
-
 TEST(General, NuevaFlexionEscribeSusValoresDeInicio)
 {
-    General g = ProyectoModificado();
+    General g = prueba::EstadoAjeno();
     ValoresFlexion(g);
-    EXPECT_EQ(g.GC, 1.5);
-    EXPECT_EQ(g.GS, 1.15);
-    EXPECT_EQ(g.GR, 1.4);
-    EXPECT_EQ(g.FCK, 25.0);
-    EXPECT_EQ(g.FYK, 500.0);
-    EXPECT_EQ(g.ANCHO, 0.4);
-    EXPECT_EQ(g.CANTO, 0.6);
-    EXPECT_EQ(g.ANCHOALMA, 0.2);
-    EXPECT_EQ(g.CANTOALA, 0.2);
-    EXPECT_EQ(g.RECUB, 0.05);
-    EXPECT_EQ(g.ASI, 10.0);
-    EXPECT_EQ(g.ASS, 0.0);
-    EXPECT_EQ(g.ANCHOR, 0.125);
-    EXPECT_EQ(g.EPS0, 0.0);
-    EXPECT_EQ(g.MD, 0.0);
-    EXPECT_EQ(g.MCP, 0.0);
+    prueba::EsperaValoresFlexion(g);
 }
 
 TEST(General, NuevaFlexionNoTocaLosCamposDeConfinamiento)
 {
-    General g = ProyectoModificado();
+    const General ajeno = prueba::EstadoAjeno();
+    General g = ajeno;
     ValoresFlexion(g);
-    EXPECT_EQ(g.SECCION, 3);
-    EXPECT_EQ(g.DIAM, 0.6);
-    EXPECT_EQ(g.LADOMENOR, 0.3);
-    EXPECT_EQ(g.NU, 0.3);
-    EXPECT_EQ(g.INCR, 1.4);
-    EXPECT_EQ(g.NCP, 1200.0);
+    EXPECT_EQ(g.SECCION, ajeno.SECCION);
+    EXPECT_EQ(g.DIAM, ajeno.DIAM);
+    EXPECT_EQ(g.LADOMENOR, ajeno.LADOMENOR);
+    EXPECT_EQ(g.NU, ajeno.NU);
+    EXPECT_EQ(g.INCR, ajeno.INCR);
+    EXPECT_EQ(g.NCP, ajeno.NCP);
 }
 
 TEST(General, NuevoConfinamientoEscribeSusValoresDeInicio)
 {
-    General g = ProyectoModificado();
+    General g = prueba::EstadoAjeno();
     ValoresNuevoConfinamiento(g);
-    EXPECT_EQ(g.GC, 1.5);
-    EXPECT_EQ(g.GS, 1.15);
-    EXPECT_EQ(g.GR, 1.4);
-    EXPECT_EQ(g.FCK, 25.0);
-    EXPECT_EQ(g.FYK, 500.0);
-    EXPECT_EQ(g.SECCION, 1);
-    EXPECT_EQ(g.DIAM, 0.5);
-    EXPECT_EQ(g.LADOMENOR, 0.4);
+    prueba::EsperaValoresConfinamiento(g);
     EXPECT_EQ(g.NU, 0.5);
-    EXPECT_EQ(g.INCR, 1.0);
-    EXPECT_EQ(g.NCP, 0.0);
+    EXPECT_EQ(g.FYK, 500.0);
 }
 
 TEST(General, NuevoConfinamientoNoTocaLosCamposDeFlexion)
 {
-    General g = ProyectoModificado();
+    const General ajeno = prueba::EstadoAjeno();
+    General g = ajeno;
     ValoresNuevoConfinamiento(g);
-    EXPECT_EQ(g.ANCHO, 0.3);
-    EXPECT_EQ(g.ASI, 12.0);
-    EXPECT_EQ(g.CANTO, 0.7);
-    EXPECT_EQ(g.MD, 150.0);
+    EXPECT_EQ(g.ANCHO, ajeno.ANCHO);
+    EXPECT_EQ(g.ASI, ajeno.ASI);
+    EXPECT_EQ(g.CANTO, ajeno.CANTO);
+    EXPECT_EQ(g.MD, ajeno.MD);
 }
 
 TEST(General, ValoresDeConfinamientoDelLectorNoIncluyenNuNiFyk)
 {
-    General g = ProyectoModificado();
+    const General ajeno = prueba::EstadoAjeno();
+    General g = ajeno;
     ValoresConfinamiento(g);
-    EXPECT_EQ(g.SECCION, 1);
-    EXPECT_EQ(g.DIAM, 0.5);
-    EXPECT_EQ(g.LADOMENOR, 0.4);
-    EXPECT_EQ(g.INCR, 1.0);
-    EXPECT_EQ(g.NCP, 0.0);
-    EXPECT_EQ(g.GC, 1.5);
-    EXPECT_EQ(g.GS, 1.15);
-    EXPECT_EQ(g.GR, 1.4);
-    EXPECT_EQ(g.FCK, 25.0);
-    EXPECT_EQ(g.NU, 0.3);
-    EXPECT_EQ(g.FYK, 400.0);
+    prueba::EsperaValoresConfinamiento(g);
+    EXPECT_EQ(g.NU, ajeno.NU);
+    EXPECT_EQ(g.FYK, ajeno.FYK);
 }
 
 TEST(General, ElEstadoDelProcesoEsUnoSolo)
