@@ -6,22 +6,11 @@
 #include "files/Ficheros.h"
 #include "state/ErrorEjecucion.h"
 
-#include <algorithm>
 #include <new>
 
 namespace texalon::calculo {
 
 namespace {
-
-// Only the ASCII letters change: an extension is compared with "VMF" and "VMC", whatever the
-// machine's character settings.
-std::string EnMayusculas(std::string_view texto)
-{
-    std::string mayusculas(texto);
-    std::transform(mayusculas.begin(), mayusculas.end(), mayusculas.begin(),
-                   [](char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c; });
-    return mayusculas;
-}
 
 // The screens have no trap around Calculate, so the program would end with this message; the
 // batch command tells it and goes on with the next file.
@@ -75,16 +64,6 @@ void CalculaBajoTrampa(CalculoFichero& calculo)
 }
 
 }  // namespace
-
-ClaseFichero ClaseDe(std::string_view fichero)
-{
-    const std::string_view nombre = Recorta(fichero);
-    if (nombre.size() < 3) return ClaseFichero::Ninguna;
-    const std::string extension = EnMayusculas(nombre.substr(nombre.size() - 3));
-    if (extension == "VMF") return ClaseFichero::Flexion;
-    if (extension == "VMC") return ClaseFichero::Confinamiento;
-    return ClaseFichero::Ninguna;
-}
 
 CalculoFichero CalculaFichero(const std::string& fichero)
 {

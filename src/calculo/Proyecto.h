@@ -3,6 +3,7 @@
 #pragma once
 
 #include "engine/Calcular.h"
+#include "files/Ficheros.h"
 #include "state/General.h"
 
 #include <optional>
@@ -11,16 +12,6 @@
 #include <vector>
 
 namespace texalon::calculo {
-
-enum class ClaseFichero {
-    Ninguna,  // not a project file
-    Flexion,  // VMF
-    Confinamiento,  // VMC
-};
-
-// The extension decides, as in Open: the last three characters of the trimmed name, in any
-// letter case.
-ClaseFichero ClaseDe(std::string_view fichero);
 
 // The messages of the batch command that the screens do not have.
 inline constexpr std::string_view kMensajeNoEsProyecto = "no es un fichero de proyecto TEXALON (.vmf o .vmc).";

@@ -3,6 +3,7 @@
 #include "calculo/Texto.h"
 
 #include "engine/Calculos.h"
+#include "engine/Caracteristicas.h"
 #include "state/Formato.h"
 
 #include <algorithm>
@@ -32,7 +33,7 @@ using Celda = std::function<std::string(int tipo, int capas)>;
 // type names, row n the number n and the values for n layers.
 std::string Tabla(const General& g, std::string_view titulo, const Celda& celda)
 {
-    std::string texto = std::string(titulo) + '\n' + Alineado("Nº capas", kAnchoCapas);
+    std::string texto = std::string(titulo) + '\n' + Alineado(kCabeceraCapas, kAnchoCapas);
     for (int t = 1; t <= g.NTIPOS; ++t)
         texto += Alineado(g.TIPOS(t), kAnchoTipo);
     texto += '\n';
@@ -82,26 +83,24 @@ std::string DescripcionSeccion(const CalculoFichero& calculo)
     return "Confinamiento, sección " + std::string(kFormas[forma - 1]);
 }
 
-// The screen shows the strains in thousandths.
-std::string Milesimas(double deformacion, char separador) { return Formato(deformacion * 1000.0, "0.00", separador); }
-
-std::string ResultadosFlexion(const CalculoFichero& calculo, char separador)
+std::string TextoFlexion(const CalculoFichero& calculo, char separador)
 {
     const General& g = calculo.g;
-    const Celda momento = [&g, separador](int t, int n) {
-        return g.MU(t, n) == kSinMejora ? std::string("---") : Formato(g.MU(t, n), "0.0", separador);
-    };
+    const Celda momento = [&g, separador](int t, int n) { return CeldaFlexion(g, t, n, separador).texto; };
+    // MUSR and EPS0 as the results panel shows them, the same for every cell.
+    const ResultadosCeldaFlexion seccion = ResultadosFlexion(g, 1, 1, separador);
     return Tabla(g, "Momento último de la sección reforzada (mkN)", momento) + LineaVeredicto(calculo.veredicto) +
-           Datos({{"MUSR", Formato(g.MUSR, "0.0", separador), "mkN"}, {"EPS0", Milesimas(g.EPS0, separador), "‰"}});
+           Datos({{"MUSR", seccion.MUSR, "mkN"}, {"EPS0", seccion.EPS0, "‰"}});
 }
 
-std::string ResultadosConfinamiento(const CalculoFichero& calculo, char separador)
+std::string TextoConfinamiento(const CalculoFichero& calculo, char separador)
 {
     const General& g = calculo.g;
-    const Celda incremento = [&g, separador](int t, int n) { return Formato(g.RESU(t, n), "0.00", separador); };
+    const Celda incremento = [&g, separador](int t, int n) { return CeldaConfina(g, t, n, separador).texto; };
     return Tabla(g, "Incremento de resistencia debido al confinamiento", incremento) +
            LineaVeredicto(calculo.veredicto) +
-           Datos({{"EPS0", Milesimas(g.EPS0, separador), "‰"}, {"ALFAN", Formato(g.ALFAN, "0.000", separador), ""}});
+           Datos({{"EPS0", ResultadosConfina(g, 1, 1, separador).EPS0, "‰"},
+                  {"ALFAN", Formato(g.ALFAN, "0.000", separador), ""}});
 }
 
 }  // namespace
@@ -109,8 +108,8 @@ std::string ResultadosConfinamiento(const CalculoFichero& calculo, char separado
 std::string TextoResultados(const CalculoFichero& calculo, char separador)
 {
     const std::string cabecera = calculo.fichero + ": " + DescripcionSeccion(calculo) + '\n';
-    if (calculo.clase == ClaseFichero::Flexion) return cabecera + ResultadosFlexion(calculo, separador);
-    return cabecera + ResultadosConfinamiento(calculo, separador);
+    if (calculo.clase == ClaseFichero::Flexion) return cabecera + TextoFlexion(calculo, separador);
+    return cabecera + TextoConfinamiento(calculo, separador);
 }
 
 }  // namespace texalon::calculo

@@ -40,6 +40,19 @@ std::string_view TextoVeredicto(Veredicto veredicto)
     return "";
 }
 
+Veredicto VeredictoFlexion(double MD, double MUSR, double MUMAX)
+{
+    // The first test wins: an MD below MUSR is green even if it also lies above MUMAX.
+    if (MD < MUSR) return Veredicto::NoEsNecesario;
+    if (MD > MUMAX) return Veredicto::NoSePuede;
+    return Veredicto::Oculto;
+}
+
+Veredicto VeredictoConfina(double INCR, double RESUMAX)
+{
+    return INCR <= RESUMAX ? Veredicto::Oculto : Veredicto::NoSePuede;
+}
+
 ResultadoCalculo CalculaFlexion(General& g, Entero seccion, const LeeCampos& leeCampos)
 {
     return ConAritmeticaVigilada([&] { return Flexion(g, seccion, leeCampos); });
@@ -75,11 +88,7 @@ ResultadoCalculo Flexion(General& g, Entero seccion, const LeeCampos& leeCampos)
     sinRefuerzo(g, g.ANCHO, g.CANTO, g.RECUB, g.ASI, g.ASS, g.FCK, g.FYK);
 
     g.MUMAX = Maximo(g, g.MU);
-    // A decision about MD alone: what the section carries by itself, what the best sheet reaches.
-    if (g.MD < g.MUSR)
-        resultado.veredicto = Veredicto::NoEsNecesario;
-    else if (g.MD > g.MUMAX)
-        resultado.veredicto = Veredicto::NoSePuede;
+    resultado.veredicto = VeredictoFlexion(g.MD, g.MUSR, g.MUMAX);
     g.F_CALCULADO = true;
     return resultado;
 }
@@ -102,7 +111,7 @@ ResultadoCalculo Confinamiento(General& g, Entero forma, const LeeCampos& leeCam
         CalculoConfina(g, forma, g.DIAM, g.LADOMENOR, g.FCK, t);
 
     g.RESUMAX = Maximo(g, g.RESU);
-    if (!(g.INCR <= g.RESUMAX)) resultado.veredicto = Veredicto::NoSePuede;
+    resultado.veredicto = VeredictoConfina(g.INCR, g.RESUMAX);
     g.F_CALCULADO = true;
     return resultado;
 }

@@ -20,6 +20,13 @@ enum class Veredicto {
 // The text of a verdict as the label shows it, blanks included; "" for a hidden label.
 std::string_view TextoVeredicto(Veredicto veredicto);
 
+// The verdict of a flexure Calculate: a decision about MD alone, against what the section
+// carries by itself (MUSR) and what the best sheet reaches (MUMAX), the tests in this order.
+Veredicto VeredictoFlexion(double MD, double MUSR, double MUMAX);
+
+// The verdict of a confinement Calculate: red when no sheet reaches INCR; there is no green.
+Veredicto VeredictoConfina(double INCR, double RESUMAX);
+
 // The message of a Calculate stopped by the initial strain.
 inline constexpr std::string_view kMensajePredeformacion =
     "La predeformación de la estructura es superior al 2 por mil.";

@@ -176,14 +176,26 @@ constexpr double kPi = 3.141592;
 FormaColumna Forma(Entero forma, double D, double L, double N)
 {
     switch (forma) {
-    case 1: return {(D * D * kPi) / 4.0, D * kPi, (D * D * kPi) / 4.0, ((D * D * 0.012566368) / 4.0) * N, 1.0};
-    case 2: return {D * D, D * 4.0, D * D, (D * D * 0.004) * N, 1.0 - 2.0 / 3.0};
-    case 3: return {D * L, (D + L) + (D + L), L * D, ((D * 0.004) * L) * N, 1.0 - ((2.0 / 3.0) * D) / L};
+    case 1:
+        return {(D * D * kPi) / 4.0, D * kPi, (D * D * kPi) / 4.0, ((D * D * 0.012566368) / 4.0) * N,
+                CoeficienteForma(forma, D, L)};
+    case 2: return {D * D, D * 4.0, D * D, (D * D * 0.004) * N, CoeficienteForma(forma, D, L)};
+    case 3: return {D * L, (D + L) + (D + L), L * D, ((D * 0.004) * L) * N, CoeficienteForma(forma, D, L)};
     default: throw ErrorEjecucion(ErrorEjecucion::kSubindiceFueraDeIntervalo);
     }
 }
 
 }  // namespace
+
+double CoeficienteForma(Entero forma, double DIAM, double LADOMENOR)
+{
+    switch (forma) {
+    case 1: return 1.0;
+    case 2: return 1.0 - 2.0 / 3.0;
+    case 3: return 1.0 - ((2.0 / 3.0) * DIAM) / LADOMENOR;
+    default: throw ErrorEjecucion(ErrorEjecucion::kSubindiceFueraDeIntervalo);
+    }
+}
 
 double ModuloHormigon(double fck) { return 8500.0 * std::pow(fck + 8.0, 1.0 / 3.0); }
 

@@ -45,6 +45,10 @@ void MomentoSinRefuerzoT(General& g, double ANCHO, double CANTO, double RECUB, d
 // EPS0 of a column under the axial load NCP.
 void PredeformacionConfina(General& g);
 
+// ALFAN, the shape coefficient of a column: 1 circular, 1 - 2/3 square, 1 - (2/3) D / L
+// rectangular. Any other shape is the run-time error 9.
+double CoeficienteForma(Entero forma, double DIAM, double LADOMENOR);
+
 // Fills the confinement results of one sheet type for 1 to MAXCAPAS layers. forma: 1 circular,
 // 2 square, 3 rectangular. The arrays must exist.
 void CalculoConfina(General& g, Entero forma, double DIAM, double LADOMENOR, double FCK, Entero tipo);

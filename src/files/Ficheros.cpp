@@ -354,6 +354,22 @@ std::string TextoConfina(const General& g)
 
 // ---------------------------------------------------------------------------------------------
 
+ClaseFichero ClaseDe(std::string_view fichero)
+{
+    // The classic Trim takes spaces only; only the ASCII letters change case, whatever the
+    // machine's character settings.
+    const std::size_t inicio = fichero.find_first_not_of(' ');
+    if (inicio == std::string_view::npos) return ClaseFichero::Ninguna;
+    const std::string_view nombre = fichero.substr(inicio, fichero.find_last_not_of(' ') - inicio + 1);
+    if (nombre.size() < 3) return ClaseFichero::Ninguna;
+    std::string extension(nombre.substr(nombre.size() - 3));
+    for (char& c : extension)
+        if (c >= 'a' && c <= 'z') c = static_cast<char>(c - 'a' + 'A');
+    if (extension == "VMF") return ClaseFichero::Flexion;
+    if (extension == "VMC") return ClaseFichero::Confinamiento;
+    return ClaseFichero::Ninguna;
+}
+
 std::string MensajeErrorFichero(int numero)
 {
     if (numero == ErrorEjecucion::kMemoriaInsuficiente) return "Memoria insuficiente.";

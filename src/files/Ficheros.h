@@ -11,6 +11,7 @@
 
 #include <functional>
 #include <string>
+#include <string_view>
 
 namespace texalon {
 
@@ -27,6 +28,15 @@ void LeeConfina(General& g, const std::string& fichero, const Aviso& aviso);
 void GrabaFlexion(General& g, const std::string& fichero, Entero tipo, const Aviso& aviso);
 // Writes the state to a VMC file.
 void GrabaConfina(General& g, const std::string& fichero, const Aviso& aviso);
+
+// The kind of project a file holds, as Open and the batch command tell it: by the last three
+// characters of the name with its spaces trimmed, in any letter case. The contents play no part.
+enum class ClaseFichero {
+    Ninguna,  // not a project file
+    Flexion,  // VMF
+    Confinamiento,  // VMC
+};
+ClaseFichero ClaseDe(std::string_view fichero);
 
 // The text that tells a run-time error of a file procedure.
 std::string MensajeErrorFichero(int numero);

@@ -1,5 +1,4 @@
-// Reading and calculating one file: the kind by the extension, and the results that the
-// default projects are known to give.
+// Reading and calculating one file: the results that the default projects are known to give.
 #include "Prueba.h"
 
 #include "calculo/Proyecto.h"
@@ -14,26 +13,6 @@ namespace {
 using prueba::DirectorioTemporal;
 
 std::string Redondeado(double valor, std::string_view patron = "0.00") { return Formato(valor, patron, '.'); }
-
-TEST(ClaseDe, LaExtensionDecideEnMayusculasOMinusculas)
-{
-    EXPECT_EQ(ClaseDe("viga.vmf"), ClaseFichero::Flexion);
-    EXPECT_EQ(ClaseDe("VIGA.VMF"), ClaseFichero::Flexion);
-    EXPECT_EQ(ClaseDe("dir/Viga.VmF"), ClaseFichero::Flexion);
-    EXPECT_EQ(ClaseDe("pilar.vmc"), ClaseFichero::Confinamiento);
-    EXPECT_EQ(ClaseDe("PILAR.VMC"), ClaseFichero::Confinamiento);
-}
-
-TEST(ClaseDe, SeRecortanLosBlancosDelNombre) { EXPECT_EQ(ClaseDe("  viga.vmf  "), ClaseFichero::Flexion); }
-
-TEST(ClaseDe, OtraExtensionNoEsUnProyecto)
-{
-    EXPECT_EQ(ClaseDe("notas.txt"), ClaseFichero::Ninguna);
-    EXPECT_EQ(ClaseDe("viga.vmf.bak"), ClaseFichero::Ninguna);
-    EXPECT_EQ(ClaseDe("vm"), ClaseFichero::Ninguna);
-    EXPECT_EQ(ClaseDe(""), ClaseFichero::Ninguna);
-    EXPECT_EQ(ClaseDe("   "), ClaseFichero::Ninguna);
-}
 
 TEST(CalculaFichero, RectangularPorDefecto)
 {

@@ -78,6 +78,27 @@ TEST(CalculaFlexion, MomentoIgualAlDeLaSeccionOAlMaximoDejaElLetreroOculto)
     EXPECT_EQ(Flexion(g).veredicto, Veredicto::Oculto);
 }
 
+TEST(VeredictoFlexion, PorDebajoDelMomentoSinRefuerzoGanaAunqueSupereElMaximo)
+{
+    // A state that positive sheet forces never give: MUMAX below MUSR. An MD between them lies
+    // both below MUSR and above MUMAX, and the first test decides.
+    General g = Proyecto();
+    g.MUSR = 200.0;
+    g.MUMAX = 150.0;
+    g.MD = 180.0;
+    EXPECT_EQ(VeredictoFlexion(g.MD, g.MUSR, g.MUMAX), Veredicto::NoEsNecesario);
+    EXPECT_EQ(VeredictoFlexion(100.0, g.MUSR, g.MUMAX), Veredicto::NoEsNecesario);
+    EXPECT_EQ(VeredictoFlexion(200.0, g.MUSR, g.MUMAX), Veredicto::NoSePuede);
+    EXPECT_EQ(VeredictoFlexion(150.0, 100.0, 150.0), Veredicto::Oculto);
+}
+
+TEST(VeredictoConfina, SoloRojoUOculto)
+{
+    EXPECT_EQ(VeredictoConfina(1.0, 1.0), Veredicto::Oculto);
+    EXPECT_EQ(VeredictoConfina(1.0, 0.5), Veredicto::NoSePuede);
+    EXPECT_EQ(VeredictoConfina(2.0, 1.37721), Veredicto::NoSePuede);
+}
+
 TEST(CalculaFlexion, PredeformacionExcesivaParaAntesDeLosResultados)
 {
     General g = Proyecto();

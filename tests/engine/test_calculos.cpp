@@ -282,6 +282,33 @@ TEST(RoturaRectangular, BarrasPorDebajoDeLaFluenciaNoCambianLosMomentosDeReferen
     EXPECT_DOUBLE_EQ(g.MLIMCR(3, 3), s.MomentoBloque(g.XLIM(3, 3), g.CANTO) * 10.0 - t3);
 }
 
+TEST(RoturaRectangular, MrbTomaLaArmaduraInferiorEnFluenciaAunqueNoLlegue)
+{
+    // Type X with 3 layers of the default project: at the R-B depth the bottom steel is below
+    // its yield strain, and MRB still takes it at its yield force.
+    General g = ProyectoPorDefecto();
+    Rectangular(g, 3);
+    const Seccion s(g, false, g.ANCHO, g.CANTO, g.RECUB, g.ASI, g.ASS, g.FCK, g.FYK);
+    const double xrb = g.XRB(3, 3);
+    const double es1 = (s.d - xrb) * 0.0035 / xrb;
+    ASSERT_LT(es1, s.epsy);
+    const double t1 = s.fc * s.b * 0.8 * xrb * (s.h - (xrb * 0.8) / 2.0);
+    const double t2 = 0.0;  // ASS = 0
+    const double t3Fluencia = ((g.FYK * g.ASI) / g.GS / 100.0) * s.r;
+    EXPECT_DOUBLE_EQ(g.MRB(3, 3), (t1 + t2 - t3Fluencia) * 10.0);
+    // The force of the steel at its own strain would give another moment.
+    const double t3Deformacion = ((g.ASI * 200000.0 * es1) / 100.0) * s.r;
+    EXPECT_GT(std::fabs(g.MRB(3, 3) - (t1 + t2 - t3Deformacion) * 10.0), 1.0);
+}
+
+TEST(CoeficienteForma, CadaFormaDeLaColumna)
+{
+    EXPECT_EQ(CoeficienteForma(1, 0.5, 0.4), 1.0);
+    EXPECT_EQ(CoeficienteForma(2, 0.5, 0.4), 1.0 - 2.0 / 3.0);
+    EXPECT_EQ(CoeficienteForma(3, 0.3, 0.4), 0.5);
+    EXPECT_EQ(A(CoeficienteForma(3, 0.5, 0.4), 6), "0.166667");
+}
+
 // ---------------------------------------------------------------- T section
 
 TEST(RoturaT, AlaQueContieneElBloqueDaLosResultadosDelRectangulo)
