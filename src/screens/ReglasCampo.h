@@ -58,6 +58,22 @@ struct ResultadoCampo {
     std::string companero;  // where a soft failure sends the focus
 };
 
+// The lower bound of every length, steel area and sheet width: 0.01 whatever the unit, though
+// the messages say "mayor que cero".
+constexpr double kMinimoLongitud = 0.01;
+
+// A test whose failure keeps the value and sends the user to the partner control.
+PruebaPropia Blanda(std::function<bool(double, const General&)> falla, std::string mensaje, std::string companero);
+// A test whose failure resets the field.
+PruebaPropia Dura(std::function<bool(double, const General&)> falla, std::string mensaje);
+
+// CO_FCK, the concrete strength, the same on the flexure and the confinement screens.
+ReglaCampo ReglaFck();
+
+// The rows of a list as values, shown in the field's format: rows 0 to 5 of CO_FCK, 0 and 1 of
+// CO_FYK, 0 to 4 of CO_ANCHOR. The next row is left for another value.
+const std::vector<double>& FilasLista(const std::string& control);
+
 // Runs the pattern on the text of a field: changes the state as the pattern says (the value
 // stored, or the reset value on a failure, and the flags on an acceptance or a soft failure)
 // and tells the screen what to show. `separador` is the machine's decimal separator.

@@ -1,22 +1,8 @@
 #include "screens/ReglasFlexion.h"
 
-#include <map>
-
 namespace texalon {
 
 namespace {
-
-constexpr double kMinimoLongitud = 0.01;
-
-PruebaPropia Blanda(std::function<bool(double, const General&)> falla, std::string mensaje, std::string companero)
-{
-    return {std::move(falla), std::move(mensaje), std::move(companero), std::nullopt, nullptr};
-}
-
-PruebaPropia Dura(std::function<bool(double, const General&)> falla, std::string mensaje)
-{
-    return {std::move(falla), std::move(mensaje), {}, std::nullopt, nullptr};
-}
 
 ReglaCampo Ancho(bool seccionT)
 {
@@ -150,16 +136,7 @@ std::vector<ReglaCampo> Comunes()
          std::nullopt,
          std::nullopt,
          {}},
-        {"CO_FCK",
-         &General::FCK,
-         "0",
-         25.0,
-         "Debe darse la resistencia del hormigón de la sección.",
-         "La resistencia del hormigón de la sección debe ser un número.",
-         Limite{50.0, "La resistencia del hormigón de la sección no puede ser mayor de 50 N/mm²."},
-         Limite{15.0, "La resistencia del hormigón de la sección no puede ser menor de 15 N/mm²."},
-         std::nullopt,
-         {}},
+        ReglaFck(),
         {"CO_FYK",
          &General::FYK,
          "0",
@@ -202,18 +179,6 @@ const std::vector<ReglaCampo>& ReglasFlexion(bool seccionT)
     static const std::vector<ReglaCampo> rectangular = Construye(false);
     static const std::vector<ReglaCampo> t = Construye(true);
     return seccionT ? t : rectangular;
-}
-
-const std::vector<double>& FilasLista(const std::string& control)
-{
-    static const std::map<std::string, std::vector<double>> filas = {
-        {"CO_FCK", {25.0, 30.0, 35.0, 40.0, 45.0, 50.0}},
-        {"CO_FYK", {400.0, 500.0}},
-        {"CO_ANCHOR", {0.125, 0.165, 0.25, 0.33, 0.5}},
-    };
-    static const std::vector<double> ninguna;
-    const auto it = filas.find(control);
-    return it == filas.end() ? ninguna : it->second;
 }
 
 }  // namespace texalon

@@ -134,6 +134,22 @@ QString RejillaResultados::Texto(int fila, int columna) const { return Celda(fil
 
 QColor RejillaResultados::Color(int fila, int columna) const { return Celda(fila, columna)->background().color(); }
 
+void RejillaResultados::AjustaLetra()
+{
+    // The room a cell leaves for its text: the grid line and the margins on either side.
+    constexpr int kMargenCelda = 8;
+    constexpr qreal kTamanoMinimo = 6.0;
+    for (int fila = 0; fila < rowCount(); ++fila)
+        for (int columna = 0; columna < columnCount(); ++columna) {
+            QTableWidgetItem* celda = Celda(fila, columna);
+            const int ancho = columnWidth(columna) - kMargenCelda;
+            QFont letra = font();
+            while (QFontMetrics(letra).horizontalAdvance(celda->text()) > ancho && letra.pointSizeF() > kTamanoMinimo)
+                letra.setPointSizeF(letra.pointSizeF() - 0.5);
+            celda->setFont(letra);
+        }
+}
+
 void RejillaResultados::CeldaActual(int fila, int columna)
 {
     Celda(fila, columna);  // a cell outside the grid fails here, before anything moves
@@ -143,8 +159,8 @@ void RejillaResultados::CeldaActual(int fila, int columna)
 void RejillaResultados::Activa(bool activa)
 {
     activa_ = activa;
+    // A disabled grid takes no focus; its place in the screen's Tab order stays.
     setEnabled(activa);
-    setFocusPolicy(activa ? Qt::StrongFocus : Qt::NoFocus);
     if (!activa) {
         clearSelection();
         selectionModel()->setCurrentIndex(QModelIndex(), QItemSelectionModel::NoUpdate);

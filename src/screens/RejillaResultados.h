@@ -38,6 +38,10 @@ public:
     QString Texto(int fila, int columna) const;
     QColor Color(int fila, int columna) const;
 
+    // Narrows the letters of each cell whose text would not fit its column, in half points:
+    // the columns keep the widths of the design whatever the letters of the machine.
+    void AjustaLetra();
+
     // The current cell: the one whose results are on show. -1 while there is none.
     void CeldaActual(int fila, int columna);
     int Fila() const { return currentRow(); }

@@ -1,5 +1,7 @@
+#include "comun/Usuario.h"
 #include "engine/Calculos.h"
 #include "platform/dobles/PlataformaDoble.h"
+#include "screens/CampoResultado.h"
 #include "screens/Entrada.h"
 #include "screens/FmFlexion.h"
 #include "screens/RejillaResultados.h"
@@ -7,6 +9,7 @@
 #include "state/Formato.h"
 #include "state/General.h"
 
+#include <QAbstractItemView>
 #include <QComboBox>
 #include <QDialog>
 #include <QLabel>
@@ -55,26 +58,15 @@ class PruebaFlexion : public QObject {
     }
 
     // Types a text into a field and leaves it with Tab, as a user would.
-    void Escribe(const char* nombre, const QString& texto)
-    {
-        QWidget* control = C(nombre);
-        control->setFocus();
-        QTRY_VERIFY(control->hasFocus());
-        if (auto* lista = qobject_cast<QComboBox*>(control))
-            lista->setEditText(texto);
-        else
-            qobject_cast<QLineEdit*>(control)->setText(texto);
-        QTest::keyClick(control, Qt::Key_Tab);
-    }
+    void Escribe(const char* nombre, const QString& texto) { prueba::EscribeYTabula(C(nombre), texto); }
 
     // Types a text into a field and leaves it for a button, which has no test of its own.
     void EscribeYSal(const char* nombre, const QString& texto)
     {
-        QWidget* control = C(nombre);
-        control->setFocus();
-        QTRY_VERIFY(control->hasFocus());
-        EscribeTexto(control, texto);
-        C("CM_CALCULAR")->setFocus();
+        QVERIFY(prueba::Enfoca(C(nombre)));
+        prueba::Teclea(C(nombre), texto);
+        // A refusal keeps the focus in the field.
+        C("CM_CALCULAR")->setFocus(Qt::MouseFocusReason);
     }
 
     QStringList Mensajes() const
@@ -92,11 +84,7 @@ class PruebaFlexion : public QObject {
         return true;
     }
 
-    void Calcula()
-    {
-        auto* boton = qobject_cast<QPushButton*>(C("CM_CALCULAR"));
-        QTest::mouseClick(boton, Qt::LeftButton);
-    }
+    void Calcula() { prueba::Pulsa(C("CM_CALCULAR")); }
 
 private slots:
     void cleanup()
@@ -417,9 +405,8 @@ private slots:
     {
         Abre();
         QWidget* campo = C("TX_MD");
-        campo->setFocus();
-        QTRY_VERIFY(campo->hasFocus());
-        qobject_cast<QLineEdit*>(campo)->setText(QStringLiteral("abc"));
+        QVERIFY(prueba::Enfoca(campo));
+        prueba::Teclea(campo, QStringLiteral("abc"));
         Calcula();
         QCOMPARE(Mensajes(), QStringList{QStringLiteral("El momento de cálculo debe ser un número.")});
         QVERIFY(!Estado().F_CALCULADO);
@@ -451,11 +438,16 @@ private slots:
         QCOMPARE(Campo("TX_ANCHOALMA")->text(), QStringLiteral("0,200"));
         QCOMPARE(Campo("TX_CANTOALA")->text(), QStringLiteral("0,200"));
         Estado().ANCHO = 0.5;
+        // A web width away from the reset shows that the refusal leaves it alone.
+        Estado().ANCHOALMA = 0.15;
         Escribe("TX_ANCHOALMA", QStringLiteral("0"));
         QCOMPARE(Mensajes().last(),
                  QStringLiteral("El ancho del alma de la sección debe ser un número mayor que cero."));
+        QVERIFY(Campo("TX_ANCHOALMA")->hasFocus());
+        QCOMPARE(Campo("TX_ANCHOALMA")->selectedText(), QStringLiteral("0"));
         QCOMPARE(Estado().ANCHO, 0.2);
-        QCOMPARE(Estado().ANCHOALMA, 0.2);
+        QCOMPARE(Estado().ANCHOALMA, 0.15);
+        QCOMPARE(Campo("TX_ANCHO")->text(), QStringLiteral("0,400"));
         Escribe("TX_ANCHOALMA", QStringLiteral("0,25"));
         Estado().CANTO = 0.7;
         Escribe("TX_CANTOALA", QStringLiteral("0"));
@@ -467,6 +459,9 @@ private slots:
     void seccionTCantoDelAlaMayorQueElCanto()
     {
         Abre(true);
+        // A flange depth away from the reset shows that the refusal writes 0.2.
+        Escribe("TX_CANTOALA", QStringLiteral("0,15"));
+        QCOMPARE(Estado().CANTOALA, 0.15);
         Escribe("TX_CANTOALA", QStringLiteral("0,7"));
         QCOMPARE(Mensajes(),
                  QStringList{QStringLiteral("El canto del ala no puede ser mayor que el canto de la sección.")});
@@ -540,7 +535,9 @@ private slots:
     {
         Abre();
         Estado().RECUB = 0.05;
-        qobject_cast<QLineEdit*>(C("TX_ASI"))->setText(QStringLiteral("abc"));
+        // Typed and never left: the closing screen checks no field, its copy finds it.
+        QVERIFY(prueba::Enfoca(C("TX_ASI")));
+        prueba::Teclea(C("TX_ASI"), QStringLiteral("abc"));
         doble_->mensajes.respuestas = {Respuesta::Si};
         pantalla_->close();
         QCOMPARE(Mensajes(), QStringList({QStringLiteral("Los datos no se han grabado, ¿desea grabar los datos?"),
@@ -706,22 +703,168 @@ private slots:
         QVERIFY(Estado().F_CALCULADO);
     }
 
-    void ordenDeTabulacionYNombresAccesibles()
+    void alAbrirElFocoEstaEnElPrimerCampoSinCambiarNada()
     {
         Abre(true);
-        const char* orden[] = {"TX_ANCHO", "TX_ANCHOALMA", "TX_CANTO", "TX_CANTOALA", "TX_RECUB", "TX_ASI",
-                               "TX_ASS",   "TX_MCP",       "TX_MD",    "CO_FCK",      "CO_FYK",   "CO_ANCHOR"};
-        C(orden[0])->setFocus();
-        QTRY_VERIFY(C(orden[0])->hasFocus());
-        for (std::size_t i = 1; i < std::size(orden); ++i) {
-            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
-            QVERIFY2(C(orden[i])->hasFocus(), orden[i]);
-        }
+        QCOMPARE(QApplication::focusWidget(), C("TX_ANCHO"));
+        QVERIFY(!Estado().F_MODIFICADO);
+        QVERIFY(Estado().F_NUEVO);
+        // The user types at once, and only leaving the field checks it.
+        QTest::keyClicks(C("TX_ANCHO"), QStringLiteral("5"));
+        QVERIFY(!Estado().F_MODIFICADO);
+    }
+
+    void tabuladorSigueElOrdenDeLectura_data()
+    {
+        QTest::addColumn<bool>("seccionT");
+        QTest::addColumn<QStringList>("datos");
+        const QStringList comunes = {"TX_RECUB", "TX_ASI",    "TX_ASS", "TX_MCP",    "TX_MD",
+                                     "CO_FCK",   "CM_GAMMA1", "CO_FYK", "CM_GAMMA2", "CO_ANCHOR"};
+        QTest::newRow("rectangular") << false << QStringList({"TX_ANCHO", "TX_CANTO"}) + comunes;
+        QTest::newRow("T") << true << QStringList({"TX_ANCHO", "TX_ANCHOALMA", "TX_CANTO", "TX_CANTOALA"}) + comunes;
+    }
+
+    void tabuladorSigueElOrdenDeLectura()
+    {
+        QFETCH(bool, seccionT);
+        QFETCH(QStringList, datos);
+        Abre(seccionT);
+        Calcula();
+        // From Calcular on a calculated screen: the result buttons, the grid, the data panel.
+        QVERIFY(prueba::Enfoca(C("CM_CALCULAR")));
+        const QStringList botones = {"CM_SECCION", "CM_DEFORMACIONES", "CM_ARMADURA",
+                                     "CM_CAPAS",   "CM_ANCLAJE",       "FG_FLEXION"};
+        QCOMPARE(prueba::RecorridoTab(static_cast<int>(botones.size()) + 1), botones + QStringList{datos.first()});
+        // Down the data panel row by row; each field passed greys the result buttons, which
+        // Tab then passes by.
+        QCOMPARE(prueba::RecorridoTab(static_cast<int>(datos.size()) + 2),
+                 datos.mid(1) + QStringList({"CM_CALCULAR", "CM_SECCION", "FG_FLEXION"}));
+        QVERIFY(Mensajes().isEmpty());
+    }
+
+    void nombresAccesiblesYConsejos()
+    {
+        Abre(true);
         QCOMPARE(C("TX_ANCHO")->accessibleName(), QStringLiteral("Ancho"));
+        QCOMPARE(C("TX_ANCHOALMA")->accessibleName(), QStringLiteral("Ancho alma"));
         QCOMPARE(C("TX_MD")->accessibleName(), QStringLiteral("Momento solicitante"));
+        QCOMPARE(C("CO_FCK")->accessibleName(), QStringLiteral("fck"));
         QCOMPARE(C("CM_CALCULAR")->toolTip(), QStringLiteral("Calcula flexión"));
         QCOMPARE(C("TX_MRB")->toolTip(),
                  QStringLiteral("Momento que hace que el diagrama de rotura pase por los pivotes R y B"));
+    }
+
+    // ---- What a new user met on these screens.
+
+    void laListaNoCompletaLoTecleado()
+    {
+        Abre();
+        Escribe("CO_FCK", QStringLiteral("4"));
+        QCOMPARE(
+            Mensajes(),
+            QStringList{QStringLiteral("La resistencia del hormigón de la sección no puede ser menor de 15 N/mm².")});
+        QCOMPARE(Lista("CO_FCK")->currentText(), QStringLiteral("4"));
+        QCOMPARE(Estado().FCK, 25.0);
+        doble_->mensajes.mostrados.clear();
+        Escribe("CO_FCK", QStringLiteral("30"));
+        Escribe("CO_ANCHOR", QStringLiteral("0,3"));
+        QVERIFY(Mensajes().isEmpty());
+        QCOMPARE(Estado().ANCHOR, 0.3);
+        QCOMPARE(Lista("CO_ANCHOR")->currentText(), QStringLiteral("0,300"));
+    }
+
+    void enviadoAlAnchoDelRefuerzoPuedeTeclearUnAnchoPequeno()
+    {
+        Abre();
+        Escribe("TX_ANCHO", QStringLiteral("0,1"));
+        QCOMPARE(Mensajes(),
+                 QStringList{QStringLiteral("El ancho del refuerzo no puede ser mayor que el ancho de la sección.")});
+        QVERIFY(Lista("CO_ANCHOR")->hasFocus());
+        prueba::Teclea(C("CO_ANCHOR"), QStringLiteral("0,1"));
+        QTest::keyClick(C("CO_ANCHOR"), Qt::Key_Tab);
+        QCOMPARE(Mensajes().size(), 1);
+        QCOMPARE(Estado().ANCHOR, 0.1);
+        QCOMPARE(Lista("CO_ANCHOR")->currentText(), QStringLiteral("0,100"));
+    }
+
+    void abrirLaListaNoComprueba()
+    {
+        Abre();
+        QComboBox* ancho = Lista("CO_ANCHOR");
+        QVERIFY(prueba::Enfoca(ancho));
+        prueba::Teclea(ancho, QStringLiteral("0,6"));
+        QVERIFY(prueba::AbreConTeclado(ancho));
+        QVERIFY(Mensajes().isEmpty());
+        QTest::keyClick(ancho->view(), Qt::Key_Escape);
+        QTRY_VERIFY(!ancho->view()->isVisible());
+        QVERIFY(Mensajes().isEmpty());
+        QCOMPARE(ancho->currentText(), QStringLiteral("0,6"));
+        QCOMPARE(Estado().ANCHOR, 0.125);
+        // Leaving the field is what checks it.
+        QTest::keyClick(ancho, Qt::Key_Tab);
+        QCOMPARE(Mensajes(), QStringList{QStringLiteral("El ancho del refuerzo a disponer en la sección debe ser menor "
+                                                        "que el ancho de la sección.")});
+    }
+
+    void abrirLaListaEnUnaPantallaCalculadaNoApagaLosBotones()
+    {
+        Abre();
+        Calcula();
+        QComboBox* fck = Lista("CO_FCK");
+        QVERIFY(prueba::Enfoca(fck));
+        QVERIFY(prueba::AbreConTeclado(fck));
+        QTest::keyClick(fck->view(), Qt::Key_Escape);
+        QTRY_VERIFY(!fck->view()->isVisible());
+        QVERIFY(BotonesResultado(true));
+        QVERIFY(Estado().F_CALCULADO);
+        QVERIFY(Mensajes().isEmpty());
+    }
+
+    void laRuedaSobreUnaListaSinFocoNoCambiaElProyecto()
+    {
+        Abre();
+        QVERIFY(prueba::Enfoca(C("TX_ANCHO")));
+        QComboBox* fck = Lista("CO_FCK");
+        const QPointF centro = QRectF(fck->rect()).center();
+        QWheelEvent rueda(centro, fck->mapToGlobal(centro), QPoint(), QPoint(0, -120), Qt::NoButton, Qt::NoModifier,
+                          Qt::NoScrollPhase, false);
+        QApplication::sendEvent(fck, &rueda);
+        QCOMPARE(fck->currentText(), QStringLiteral("25"));
+        QCOMPARE(fck->currentIndex(), 0);
+        QVERIFY(C("TX_ANCHO")->hasFocus());
+        QVERIFY(Mensajes().isEmpty());
+    }
+
+    void unBotonPulsadoConUnCampoMaloNoQuedaHundido()
+    {
+        Abre();
+        QVERIFY(prueba::Enfoca(C("TX_MD")));
+        prueba::Teclea(C("TX_MD"), QStringLiteral("abc"));
+        auto* calcular = qobject_cast<QPushButton*>(C("CM_CALCULAR"));
+        // The user's release of the button happens while the message is up, elsewhere.
+        QTest::mousePress(calcular, Qt::LeftButton);
+        QCOMPARE(Mensajes(), QStringList{QStringLiteral("El momento de cálculo debe ser un número.")});
+        QVERIFY(!calcular->isDown());
+        QVERIFY(C("TX_MD")->hasFocus());
+        QVERIFY(!Estado().F_CALCULADO);
+    }
+
+    void losCamposDeResultadoMuestranElNumeroEntero()
+    {
+        Abre();
+        Escribe("TX_ASI", QStringLiteral("80000"));
+        Calcula();
+        QVERIFY(Estado().F_CALCULADO);
+        QVERIFY2(Campo("TX_MRB")->text().size() >= 8, qPrintable(Campo("TX_MRB")->text()));
+        for (const char* nombre : {"TX_MUSR", "TX_MU", "TX_MRB", "TX_MLIMCR", "TX_FN", "TX_EPSC", "TX_EPSSI",
+                                   "TX_EPSSS", "TX_EPSR", "TX_EPS0"}) {
+            auto* campo = qobject_cast<CampoResultado*>(C(nombre));
+            QVERIFY2(campo->TextoEntero(), nombre);
+        }
+        // A short number goes back to the screen's own letters.
+        Escribe("TX_ASI", QStringLiteral("10"));
+        Calcula();
+        QCOMPARE(Campo("TX_MRB")->font().pointSizeF(), Campo("TX_MRB")->parentWidget()->font().pointSizeF());
     }
 
     void cadaCampoConSusMensajesYSuReinicio_data()
@@ -810,12 +953,17 @@ private slots:
     {
         Abre();
         QComboBox* fck = Lista("CO_FCK");
-        fck->setFocus();
-        QTRY_VERIFY(fck->hasFocus());
+        QVERIFY(prueba::Enfoca(fck));
         Estado().F_MODIFICADO = false;
-        fck->setCurrentIndex(3);
+        QVERIFY(prueba::AbreConTeclado(fck));
+        for (int paso = 0; paso < 3; ++paso)
+            QTest::keyClick(fck->view(), Qt::Key_Down);
+        QTest::keyClick(fck->view(), Qt::Key_Return);
+        QTRY_VERIFY(!fck->view()->isVisible());
+        QCOMPARE(fck->currentText(), QStringLiteral("40"));
         QCOMPARE(Estado().FCK, 25.0);
         QVERIFY(!Estado().F_MODIFICADO);
+        QVERIFY(fck->hasFocus());
         QTest::keyClick(fck, Qt::Key_Tab);
         QCOMPARE(Estado().FCK, 40.0);
         QVERIFY(Estado().F_MODIFICADO);
@@ -833,8 +981,9 @@ private slots:
             caja.close();
             if (!QTest::qWaitForWindowActive(caja.parentWidget())) qWarning("la pantalla no ha vuelto");
         };
-        // The next field is wrong too: a second check would show its message as well.
-        Campo("TX_RECUB")->setText(QStringLiteral("xyz"));
+        // The next field is made wrong too, by the program's own writing: a second check would
+        // show its message as well.
+        EscribeTexto(C("TX_RECUB"), QStringLiteral("xyz"));
         Escribe("TX_CANTO", QStringLiteral("abc"));
         QCOMPARE(Mensajes(), QStringList{QStringLiteral("El canto de la sección debe ser un número.")});
         QTRY_VERIFY(Campo("TX_CANTO")->hasFocus());
