@@ -1,6 +1,7 @@
 #include "screens/FmAnclaje.h"
 
 #include "engine/Calculos.h"
+#include "platform/Dialogos.h"
 #include "platform/Plataforma.h"
 #include "screens/Imagenes.h"
 #include "screens/RejillaResultados.h"
@@ -47,7 +48,6 @@ FmAnclaje::FmAnclaje(QWidget* padre) : QDialog(padre), rejilla_(new RejillaResul
 {
     setObjectName(QStringLiteral("FM_ANCLAJE"));
     setWindowTitle(QStringLiteral("Longitud  neta de anclaje (Lb)"));
-    setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowCloseButtonHint);
     setModal(true);
     rejilla_->setObjectName(QStringLiteral("FG_ANCLAJE"));
     TablaAnclaje();
@@ -61,7 +61,7 @@ FmAnclaje::FmAnclaje(QWidget* padre) : QDialog(padre), rejilla_(new RejillaResul
     disposicion->addWidget(rejilla_, 0, 1);
     disposicion->addWidget(salir, 1, 1, Qt::AlignRight);
     // The window takes the size of what it holds and keeps it.
-    disposicion->setSizeConstraint(QLayout::SetFixedSize);
+    plataforma::PreparaDialogo(*this);
     // The focus starts on the button, so that no cell of the table looks chosen on opening.
     salir->setFocus();
 }

@@ -1,5 +1,6 @@
 #include "screens/FmCoef.h"
 
+#include "platform/Dialogos.h"
 #include "platform/Plataforma.h"
 #include "screens/Entrada.h"
 #include "state/Decimales.h"
@@ -130,7 +131,6 @@ FmCoef::FmCoef(QWidget* padre) : QDialog(padre)
 {
     setObjectName(QStringLiteral("FM_COEF"));
     setWindowTitle(QStringLiteral("Coeficientes de seguridad de los materiales"));
-    setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowCloseButtonHint);
     setModal(true);
 
     static_assert(std::size(kCoeficientes) == kNumCoeficientes, "one row for each coefficient");
@@ -166,11 +166,11 @@ FmCoef::FmCoef(QWidget* padre) : QDialog(padre)
     marco->addLayout(filas);
     marco->addWidget(nota);
     marco->addLayout(botones);
-    // The dialog can't be resized: its size is what its contents ask for.
-    marco->setSizeConstraint(QLayout::SetFixedSize);
 
     OrdenaTabulacion();
     CargaEstado();
+    // The dialog can't be resized: its size is what its contents and its caption ask for.
+    plataforma::PreparaDialogo(*this);
 }
 
 int FmCoef::Muestra(QWidget* padre)
@@ -212,6 +212,7 @@ QPushButton* FmCoef::CreaBoton(const char* nombre, const QString& texto)
     // and Aceptar, the one it finds, does not act without the focus: Enter runs no code.
     boton->setFocusPolicy(Qt::StrongFocus);
     boton->setMinimumWidth(90);
+    ProtegeClic(boton);
     return boton;
 }
 

@@ -1,5 +1,6 @@
 #include "shell/FmAcercaDe.h"
 
+#include "platform/Dialogos.h"
 #include "screens/Imagenes.h"
 
 #include <QFrame>
@@ -33,8 +34,7 @@ FmAcercaDe::FmAcercaDe(QWidget* padre) : QDialog(padre)
 {
     setObjectName(QStringLiteral("FM_ACERCADE"));
     setWindowTitle(QStringLiteral("Acerca de TEXALON®"));
-    setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowCloseButtonHint);
-    setFixedSize(420, 260);
+    setMinimumSize(420, 260);
 
     QLabel* image1 = Dibujo("Image1", QStringLiteral(":/imagenes/logo.svg"), QSize(96, 96), this);
     QLabel* image2 = Dibujo("Image2", QStringLiteral(":/imagenes/acerca.svg"), QSize(48, 48), this);
@@ -87,6 +87,7 @@ FmAcercaDe::FmAcercaDe(QWidget* padre) : QDialog(padre)
     rejilla->addWidget(image2, 4, 0, Qt::AlignLeft | Qt::AlignVCenter);
     rejilla->addWidget(cmdOK, 4, 1, Qt::AlignRight | Qt::AlignVCenter);
     rejilla->setRowStretch(2, 1);
+    plataforma::PreparaDialogo(*this);
 }
 
 }  // namespace texalon

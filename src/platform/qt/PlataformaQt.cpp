@@ -1,5 +1,7 @@
 #include "platform/qt/PlataformaQt.h"
 
+#include "platform/Dialogos.h"
+
 #include <QApplication>
 #include <QDialog>
 #include <QDir>
@@ -38,6 +40,8 @@ std::optional<FicheroElegido> MuestraDialogo(const DialogoFichero& dialogo, QFil
     if (dialogo.indiceFiltro >= 1 && dialogo.indiceFiltro <= filtros.size())
         cuadro.selectNameFilter(filtros.at(dialogo.indiceFiltro - 1));
     if (!dialogo.nombre.isEmpty()) cuadro.selectFile(dialogo.nombre);
+    // A name typed without its extension gets the project's, as a desktop's save dialog does.
+    if (modo == QFileDialog::AcceptSave) cuadro.setDefaultSuffix(ExtensionPorDefecto(dialogo.filtro));
     if (cuadro.exec() != QDialog::Accepted || cuadro.selectedFiles().isEmpty()) return std::nullopt;
 
     // As the classic dialog does, the chosen file's folder becomes the current directory.
@@ -48,6 +52,15 @@ std::optional<FicheroElegido> MuestraDialogo(const DialogoFichero& dialogo, QFil
 }
 
 }  // namespace
+
+QString ExtensionPorDefecto(const QString& filtro)
+{
+    // The first pattern of the first filter, "*.VMF", in small letters.
+    const QStringList partes = filtro.split(QLatin1Char('|'));
+    if (partes.size() < 2) return {};
+    const QString patron = partes.at(1).section(QLatin1Char(';'), 0, 0);
+    return patron.startsWith(QLatin1String("*.")) ? patron.mid(2).toLower() : QString();
+}
 
 QString TextoParaMostrar(const QString& texto)
 {
@@ -79,9 +92,11 @@ Respuesta MensajesQt::Muestra(const QString& texto, Estilo estilo)
     if (estilo == Estilo::PreguntaSiNo) {
         caja.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
         caja.setDefaultButton(QMessageBox::Yes);
+        PreparaDialogo(caja);
         return caja.exec() == QMessageBox::Yes ? Respuesta::Si : Respuesta::No;
     }
     caja.setStandardButtons(QMessageBox::Ok);
+    PreparaDialogo(caja);
     caja.exec();
     return Respuesta::Aceptar;
 }

@@ -45,6 +45,10 @@ void InstalaQt();
 // the two apart and the program does not.
 QStringList FiltrosQt(const QString& filtro);
 
+// The extension a save dialog adds to a name typed without one: that of the filter's first
+// pattern, in small letters ("vmf" for "Archivos TEXALON - Flexión|*.VMF").
+QString ExtensionPorDefecto(const QString& filtro);
+
 // A carriage return alone breaks a line in a classic message box; Qt wants a line feed.
 QString TextoParaMostrar(const QString& texto);
 
