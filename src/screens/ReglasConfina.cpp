@@ -1,0 +1,109 @@
+#include "screens/ReglasConfina.h"
+
+#include "engine/Calculos.h"
+
+#include <cmath>
+
+namespace texalon {
+
+namespace {
+
+constexpr char kMensajeLadoMenor[] = "El lado menor debe ser un número más pequeño que el lado mayor.";
+constexpr char kMensajeRelacion[] = "La relación entre lados del elemento a confinar debe ser menor de 1,5.";
+
+std::vector<ReglaCampo> Construye()
+{
+    return {
+        {"TX_DIAM",
+         &General::DIAM,
+         "0.000",
+         0.5,
+         "Debe darse el diámetro o lado del elemento a confinar.",
+         "El diámetro o lado debe ser un número.",
+         std::nullopt,
+         Limite{kMinimoLongitud, "El diámetro o lado debe ser mayor que cero."},
+         std::nullopt,
+         // Only a rectangle has a ratio of sides; no test compares the side with LADOMENOR.
+         {Dura([](double v,
+                  const General& g) { return g.SECCION == 3 && RelacionLados(v, g.LADOMENOR) >= kRelacionMaxima; },
+               kMensajeRelacion)}},
+        {"TX_LADOMENOR",
+         &General::LADOMENOR,
+         "0.000",
+         0.4,
+         "Debe darse el lado menor del elemento a confinar.",
+         "El lado menor debe ser un número.",
+         std::nullopt,
+         Limite{kMinimoLongitud, "El lado menor debe ser mayor que cero."},
+         std::nullopt,
+         {Dura([](double v, const General& g) { return v > g.DIAM; }, kMensajeLadoMenor),
+          Dura([](double v, const General& g) { return RelacionLados(g.DIAM, v) >= kRelacionMaxima; },
+               kMensajeRelacion)}},
+        // Exactly 1 passes, though the message asks for more than 1.
+        {"TX_INCR",
+         &General::INCR,
+         "0.00",
+         1.0,
+         "Debe darse el incremento de resistencia necesario.",
+         "El incremento de resistencia necesario debe ser un número.",
+         std::nullopt,
+         Limite{1.0, "El incremento de resistencia necesario debe ser mayor que 1."},
+         std::nullopt,
+         {}},
+        {"TX_NCP",
+         &General::NCP,
+         "0.00",
+         0.0,
+         "Debe darse el axil que actúa en el momento de colocar el refuerzo.",
+         "El axil que actúa en el momento de colocar el refuerzo debe ser un número.",
+         std::nullopt,
+         std::nullopt,
+         std::nullopt,
+         {}},
+        ReglaFck(),
+    };
+}
+
+}  // namespace
+
+const std::vector<ReglaCampo>& ReglasConfina()
+{
+    static const std::vector<ReglaCampo> reglas = Construye();
+    return reglas;
+}
+
+const std::vector<std::string>& FilasSeccion()
+{
+    static const std::vector<std::string> filas = {"CIRCULAR", "CUADRADA", "RECTANGULAR"};
+    return filas;
+}
+
+double RelacionLados(double mayor, double menor)
+{
+    constexpr double kEscala = 1e9;
+    return std::round(mayor / menor * kEscala) / kEscala;
+}
+
+std::optional<double> CoeficienteFormaDeFila(int fila, const General& g)
+{
+    if (fila < 0 || fila > kFilaRectangular) return std::nullopt;
+    return CoeficienteForma(static_cast<Entero>(fila + 1), g.DIAM, g.LADOMENOR);
+}
+
+CambioSeccion CambiaSeccion(General& g, int fila)
+{
+    g.SECCION = static_cast<Entero>(fila + 1);
+    if (const auto alfan = CoeficienteFormaDeFila(fila, g)) g.ALFAN = *alfan;
+    CambioSeccion cambio;
+    if (fila == kFilaRectangular) {
+        cambio.ladoMenorActivo = true;
+        if (g.DIAM < g.LADOMENOR) cambio.mensaje = kMensajeLadoMenor;
+        // Exactly 1.5 passes here, where the fields refuse it.
+        if (RelacionLados(g.DIAM, g.LADOMENOR) > kRelacionMaxima) cambio.mensaje = kMensajeRelacion;
+    }
+    g.F_MODIFICADO = true;
+    g.F_CALCULADO = false;
+    return cambio;
+}
+
+}  // namespace texalon
