@@ -1,8 +1,17 @@
+#include "engine/Calculos.h"
+#include "platform/Dialogos.h"
 #include "platform/dobles/PlataformaDoble.h"
 #include "platform/qt/PlataformaQt.h"
+#include "screens/FmAnclaje.h"
+#include "screens/FmCoef.h"
+#include "shell/FmAcercaDe.h"
+#include "state/General.h"
 
 #include <QApplication>
 #include <QDialog>
+#include <QLabel>
+#include <QMessageBox>
+#include <QVBoxLayout>
 #include <QtTest>
 
 using namespace texalon;
@@ -109,6 +118,72 @@ private slots:
         QCOMPARE(doble.proceso.erroresFatales[0].texto,
                  QStringLiteral("Se ha producido el error '6' en tiempo de ejecución:\r\rDesbordamiento"));
         QCOMPARE(doble.proceso.terminaciones, std::vector<int>{1});
+    }
+
+    void losDialogosSonFijosConSoloElBotonDeCerrar()
+    {
+        PlataformaDoble doble;
+        Estado() = General{};
+        ValoresIniciales(Estado());
+        LongitudAnclaje(Estado());
+        FmCoef coeficientes(nullptr);
+        FmAnclaje anclaje(nullptr);
+        FmAcercaDe acerca(nullptr);
+        const std::unique_ptr<QMessageBox> caja = CajaDeMensaje(
+            QStringLiteral("Los datos no se han grabado, ¿desea grabar los datos?"), Estilo::PreguntaSiNo, nullptr);
+        const std::unique_ptr<QMessageBox> parada =
+            CajaDeMensaje(QStringLiteral("Los datos introducidos no son correctos."), Estilo::Parada, nullptr);
+        for (QDialog* dialogo :
+             std::initializer_list<QDialog*>{&coeficientes, &anclaje, &acerca, caja.get(), parada.get()}) {
+            const QString nombre = dialogo->objectName() + QLatin1Char(' ') + dialogo->windowTitle();
+            const Qt::WindowFlags marco = dialogo->windowFlags();
+            QVERIFY2(marco.testFlag(Qt::WindowCloseButtonHint), qPrintable(nombre));
+            QVERIFY2(!marco.testFlag(Qt::WindowMinimizeButtonHint), qPrintable(nombre));
+            QVERIFY2(!marco.testFlag(Qt::WindowMaximizeButtonHint), qPrintable(nombre));
+            QVERIFY2(marco.testFlag(Qt::CustomizeWindowHint), qPrintable(nombre));
+            QCOMPARE(dialogo->windowType(), Qt::Dialog);
+            QCOMPARE(dialogo->minimumSize(), dialogo->maximumSize());
+            QVERIFY2(dialogo->width() >= AnchoParaTitulo(*dialogo), qPrintable(nombre));
+        }
+        QCOMPARE(coeficientes.windowTitle(), QStringLiteral("Coeficientes de seguridad de los materiales"));
+        QCOMPARE(caja->windowTitle(), QStringLiteral("VELMORA - TEXALON®"));
+        QCOMPARE(caja->standardButtons(), QMessageBox::Yes | QMessageBox::No);
+        QCOMPARE(caja->icon(), QMessageBox::Question);
+        QCOMPARE(parada->icon(), QMessageBox::Critical);
+        QCOMPARE(parada->standardButtons(), QMessageBox::Ok);
+    }
+
+    void elAnchoDelTituloCreceConElTitulo()
+    {
+        QDialog corto;
+        corto.setWindowTitle(QStringLiteral("Ab"));
+        QDialog largo;
+        largo.setWindowTitle(QStringLiteral("Coeficientes de seguridad de los materiales"));
+        QVERIFY(AnchoParaTitulo(largo) > AnchoParaTitulo(corto) + 200);
+        // A dialog smaller than its caption is widened to it; its contents then fill the width.
+        auto* disposicion = new QVBoxLayout(&largo);
+        disposicion->addWidget(new QLabel(QStringLiteral("x"), &largo));
+        PreparaDialogo(largo);
+        QCOMPARE(largo.width(), AnchoParaTitulo(largo));
+    }
+
+    void unDialogoMinimizadoVuelve()
+    {
+        QDialog dialogo;
+        dialogo.setWindowTitle(QStringLiteral("Prueba"));
+        PreparaDialogo(dialogo);
+        dialogo.show();
+        dialogo.setWindowState(Qt::WindowMinimized);
+        QVERIFY(dialogo.isMinimized());
+        QTRY_VERIFY(!dialogo.isMinimized());
+    }
+
+    void laGrabacionAnadeLaExtensionDelFiltro()
+    {
+        QCOMPARE(ExtensionPorDefecto(QStringLiteral("Archivos TEXALON - Flexión|*.VMF")), QStringLiteral("vmf"));
+        QCOMPARE(ExtensionPorDefecto(QStringLiteral("Archivos TEXALON - Confinamiento|*.VMC")), QStringLiteral("vmc"));
+        QCOMPARE(ExtensionPorDefecto(QStringLiteral("Archivos TEXALON|*.VMC;*.VMF")), QStringLiteral("vmc"));
+        QCOMPARE(ExtensionPorDefecto(QString()), QString());
     }
 
     void pantallaRealTieneTamano()

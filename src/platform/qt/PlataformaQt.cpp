@@ -85,20 +85,26 @@ QStringList FiltrosQt(const QString& filtro)
     return filtros;
 }
 
+std::unique_ptr<QMessageBox> CajaDeMensaje(const QString& texto, Estilo estilo, QWidget* padre)
+{
+    auto caja = std::make_unique<QMessageBox>(IconoDe(estilo), kTituloMensajes, TextoParaMostrar(texto),
+                                              QMessageBox::NoButton, padre);
+    if (estilo == Estilo::PreguntaSiNo) {
+        caja->setStandardButtons(QMessageBox::Yes | QMessageBox::No);
+        caja->setDefaultButton(QMessageBox::Yes);
+    } else {
+        caja->setStandardButtons(QMessageBox::Ok);
+    }
+    PreparaDialogo(*caja);
+    return caja;
+}
+
 Respuesta MensajesQt::Muestra(const QString& texto, Estilo estilo)
 {
-    QMessageBox caja(IconoDe(estilo), kTituloMensajes, TextoParaMostrar(texto), QMessageBox::NoButton,
-                     QApplication::activeWindow());
-    if (estilo == Estilo::PreguntaSiNo) {
-        caja.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
-        caja.setDefaultButton(QMessageBox::Yes);
-        PreparaDialogo(caja);
-        return caja.exec() == QMessageBox::Yes ? Respuesta::Si : Respuesta::No;
-    }
-    caja.setStandardButtons(QMessageBox::Ok);
-    PreparaDialogo(caja);
-    caja.exec();
-    return Respuesta::Aceptar;
+    const std::unique_ptr<QMessageBox> caja = CajaDeMensaje(texto, estilo, QApplication::activeWindow());
+    const int respuesta = caja->exec();
+    if (estilo != Estilo::PreguntaSiNo) return Respuesta::Aceptar;
+    return respuesta == QMessageBox::Yes ? Respuesta::Si : Respuesta::No;
 }
 
 std::optional<FicheroElegido> FicherosQt::Abrir(const DialogoFichero& dialogo)

@@ -3,6 +3,11 @@
 
 #include "platform/Plataforma.h"
 
+#include <memory>
+
+class QMessageBox;
+class QWidget;
+
 namespace texalon::plataforma {
 
 class MensajesQt final : public Mensajes {
@@ -48,6 +53,10 @@ QStringList FiltrosQt(const QString& filtro);
 // The extension a save dialog adds to a name typed without one: that of the filter's first
 // pattern, in small letters ("vmf" for "Archivos TEXALON - Flexión|*.VMF").
 QString ExtensionPorDefecto(const QString& filtro);
+
+// The message box of the program, ready to be shown: the text, the icon and buttons of the
+// style, the program's title, the frame of the program's dialogs.
+std::unique_ptr<QMessageBox> CajaDeMensaje(const QString& texto, Estilo estilo, QWidget* padre);
 
 // A carriage return alone breaks a line in a classic message box; Qt wants a line feed.
 QString TextoParaMostrar(const QString& texto);
