@@ -1,6 +1,8 @@
 #include "shell/MdiPrincipal.h"
 
 #include "platform/Plataforma.h"
+#include "screens/FmCarac.h"
+#include "screens/FmConfina.h"
 #include "screens/FmFlexion.h"
 #include "screens/Imagenes.h"
 #include "shell/FmAcercaDe.h"
@@ -38,9 +40,9 @@ struct Menu {
 };
 
 const EntradaMenu kPrincipal[] = {
-    {"mnuPrincipalAbrir", "&Abrir datos", "Ctrl+A", true, nullptr},
-    {"mnuPrincipalGuardar", "&Guardar datos", "Ctrl+S", false, nullptr},
-    {"mnuPrincipalGuardarcomo", "G&uardar datos como...", "", false, nullptr},
+    {"mnuPrincipalAbrir", "&Abrir datos", "Ctrl+A", true, &MdiPrincipal::AbrirDesdeMenu},
+    {"mnuPrincipalGuardar", "&Guardar datos", "Ctrl+S", false, &MdiPrincipal::GuardarDesdeMenu},
+    {"mnuPrincipalGuardarcomo", "G&uardar datos como...", "", false, &MdiPrincipal::GuardarComo},
     {"mnuPrincipalNada1", nullptr, "", true, nullptr},
     {"mnuPrincipalImprimir", "&Imprimir", "Ctrl+I", false, nullptr},
     {"mnuPrincipalConfigurar", "&Configurar impresora", "", true, nullptr},
@@ -304,16 +306,39 @@ void MdiPrincipal::NuevaFlexionT() { NuevaPantalla(Pantalla::FlexionT, &ValoresF
 
 void MdiPrincipal::NuevoConfinamiento() { NuevaPantalla(Pantalla::Confina, &ValoresNuevoConfinamiento); }
 
+Formulario* MdiPrincipal::PantallaAbierta() const
+{
+    const QList<QMdiSubWindow*> ventanas = area_->subWindowList();
+    for (QMdiSubWindow* ventana : ventanas)
+        if (auto* pantalla = qobject_cast<Formulario*>(ventana->widget())) return pantalla;
+    return nullptr;
+}
+
+FormularioCalculo* MdiPrincipal::PantallaDeCalculo(std::initializer_list<Pantalla> orden) const
+{
+    const General& g = Estado();
+    for (Pantalla pantalla : orden) {
+        const bool abierta = pantalla == Pantalla::Flexion    ? g.F_FLEXION
+                             : pantalla == Pantalla::FlexionT ? g.F_FLEXIONT
+                             : pantalla == Pantalla::Confina  ? g.F_CONFINA
+                                                              : false;
+        if (!abierta) continue;
+        QMdiSubWindow* ventana = Ventana(pantalla);
+        return ventana == nullptr ? nullptr : qobject_cast<FormularioCalculo*>(ventana->widget());
+    }
+    return nullptr;
+}
+
 void MdiPrincipal::MuestraPantalla(Pantalla pantalla)
 {
-    QWidget* contenido = nullptr;
-    if (pantalla == Pantalla::Flexion || pantalla == Pantalla::FlexionT) {
-        auto* flexion = new FmFlexion(pantalla == Pantalla::FlexionT);
-        connect(flexion, &FmFlexion::Descargada, this, &MdiPrincipal::PantallaDescargada);
-        contenido = flexion;
+    Formulario* contenido = nullptr;
+    switch (pantalla) {
+    case Pantalla::Flexion: contenido = new FmFlexion(false); break;
+    case Pantalla::FlexionT: contenido = new FmFlexion(true); break;
+    case Pantalla::Confina: contenido = new FmConfina; break;
+    case Pantalla::Carac: contenido = new FmCarac; break;
     }
-    // The confinement and characteristics screens join here as they are built.
-    if (contenido == nullptr) return;
+    connect(contenido, &Formulario::Descargada, this, &MdiPrincipal::PantallaDescargada);
 
     // A screen has a fixed size and a frame that can be minimised and closed, not stretched.
     QMdiSubWindow* ventana =
@@ -326,7 +351,8 @@ void MdiPrincipal::MuestraPantalla(Pantalla pantalla)
     ventana->move(0, 0);
     ventana->show();
     area_->setActiveSubWindow(ventana);
-    contenido->setFocus();
+    // The focus goes where the load left it: the first field, or a field a message sent it to.
+    if (QWidget* foco = contenido->focusWidget()) foco->setFocus(Qt::OtherFocusReason);
 }
 
 void MdiPrincipal::VentanaActivada(QMdiSubWindow* ventana)
@@ -338,8 +364,9 @@ void MdiPrincipal::VentanaActivada(QMdiSubWindow* ventana)
 
 void MdiPrincipal::Caracteristicas()
 {
-    // Neither F_ABIERTO nor any field is touched: only the open screen goes.
+    // Neither F_ABIERTO nor any field is touched: the open screen goes, the state stays.
     CierraPantallaAbierta();
+    MuestraPantalla(Pantalla::Carac);
 }
 
 void MdiPrincipal::AcercaDe()
@@ -348,9 +375,8 @@ void MdiPrincipal::AcercaDe()
     g.F_ERROR = false;
     // A real copy: a text typed and not yet checked reaches the state, and fields that do not
     // pass keep the box from opening, without a word.
-    for (Pantalla pantalla : {Pantalla::Flexion, Pantalla::FlexionT})
-        if ((pantalla == Pantalla::Flexion ? g.F_FLEXION : g.F_FLEXIONT) && Ventana(pantalla) != nullptr)
-            if (auto* flexion = qobject_cast<FmFlexion*>(Ventana(pantalla)->widget())) flexion->CopiaAlEstado();
+    if (FormularioCalculo* pantalla = PantallaDeCalculo({Pantalla::Flexion, Pantalla::FlexionT, Pantalla::Confina}))
+        pantalla->CopiaAlEstado();
     if (g.F_ERROR) return;
     FmAcercaDe caja(this);
     plataforma::ServicioVentanas().MuestraModal(caja);
@@ -366,6 +392,8 @@ void MdiPrincipal::TB_BARRA_ButtonClick(const QString& clave)
 {
     barra_->update();
     CierraPresentacion();
+    if (clave == QLatin1String("Abrir")) Abrir(Via::Barra);
+    if (clave == QLatin1String("Guardar")) Guardar(Via::Barra);
     if (clave == QLatin1String("Carac")) Caracteristicas();
     if (clave == QLatin1String("FlexionR")) NuevaFlexion();
     if (clave == QLatin1String("FlexionT")) NuevaFlexionT();

@@ -9,12 +9,17 @@
 #include <QList>
 #include <QMainWindow>
 #include <QPointer>
+#include <functional>
+#include <initializer_list>
 
 class QMdiArea;
 class QMdiSubWindow;
 class QToolBar;
 
 namespace texalon {
+
+class Formulario;
+class FormularioCalculo;
 
 // The four calculation screens, each known to the shell by its window name.
 enum class Pantalla { Flexion, FlexionT, Confina, Carac };
@@ -51,7 +56,19 @@ public:
     // Unloads the open calculation screen, if any, through its close prompt.
     void CierraPantallaAbierta();
 
+    // The screen open now, if any.
+    Formulario* PantallaAbierta() const;
+
     // The commands of the menu and the toolbar.
+    //
+    // Open, Save and Save As end at once on any error, and a Cancel in their file dialog is
+    // one: the menu's handlers then clear F_ABIERTO, the toolbar's leave it as it was.
+    enum class Via { Menu, Barra };
+    void Abrir(Via via);
+    void Guardar(Via via);
+    void AbrirDesdeMenu() { Abrir(Via::Menu); }
+    void GuardarDesdeMenu() { Guardar(Via::Menu); }
+    void GuardarComo();
     void NuevaFlexion();
     void NuevaFlexionT();
     void NuevoConfinamiento();
@@ -81,6 +98,14 @@ private:
     void ActivaGuardarEImprimir(bool guardar, bool imprimir);
     void NuevaPantalla(Pantalla pantalla, void (*valoresIniciales)(General&));
     void MuestraPantalla(Pantalla pantalla);
+
+    // How Open and the saves end: done, or stopped by a Cancel in the file dialog.
+    enum class Fin { Completa, Cancelada };
+    Fin AbreProyecto();
+    Fin GuardaProyecto(bool preguntaSiempre);
+    void OrdenDeFichero(Via via, const std::function<Fin()>& orden);
+    // The open calculation screen, its flag tested in the given order.
+    FormularioCalculo* PantallaDeCalculo(std::initializer_list<Pantalla> orden) const;
     void VentanaActivada(QMdiSubWindow* ventana);
     QMdiSubWindow* Ventana(Pantalla pantalla) const;
 

@@ -1,4 +1,5 @@
 #include "platform/dobles/PlataformaDoble.h"
+#include "screens/Formulario.h"
 #include "shell/Aplicacion.h"
 #include "shell/FmPresentacion.h"
 #include "shell/MdiPrincipal.h"
@@ -16,6 +17,7 @@
 #include <QToolBar>
 #include <QToolButton>
 #include <QtTest>
+#include <array>
 #include <memory>
 
 using namespace texalon;
@@ -543,20 +545,96 @@ private slots:
         QVERIFY(!Estado().F_FLEXION);
     }
 
-    void pantallaDeFlexionCabeEnLaVentanaPrincipal()
+    void cadaPantallaCabeEnLaVentanaPrincipal()
     {
         MdiPrincipal& w = Arranca();
         w.show();
-        for (auto orden : {&MdiPrincipal::NuevaFlexion, &MdiPrincipal::NuevaFlexionT}) {
+        Presentacion()->close();
+        for (auto orden : {&MdiPrincipal::NuevaFlexion, &MdiPrincipal::NuevaFlexionT, &MdiPrincipal::NuevoConfinamiento,
+                           &MdiPrincipal::Caracteristicas}) {
             (w.*orden)();
             QMdiSubWindow* ventana = w.Area()->subWindowList().constLast();
             QVERIFY2(w.Area()->viewport()->rect().contains(ventana->geometry()),
-                     qPrintable(QStringLiteral("%1x%2 en %3x%4")
+                     qPrintable(QStringLiteral("%1: %2x%3 en %4x%5")
+                                    .arg(ventana->widget()->objectName())
                                     .arg(ventana->width())
                                     .arg(ventana->height())
                                     .arg(w.Area()->viewport()->width())
                                     .arg(w.Area()->viewport()->height())));
         }
+    }
+
+    void nuevoConfinamientoYCaracteristicasAbrenSusPantallasPorMenuYBarra_data()
+    {
+        QTest::addColumn<bool>("porBarra");
+        QTest::newRow("menu") << false;
+        QTest::newRow("barra") << true;
+    }
+
+    void nuevoConfinamientoYCaracteristicasAbrenSusPantallasPorMenuYBarra()
+    {
+        QFETCH(bool, porBarra);
+        MdiPrincipal& w = Arranca();
+        w.show();
+        Estado().DIAM = 0.7;
+        if (porBarra)
+            w.TB_BARRA_ButtonClick(QStringLiteral("Confina"));
+        else
+            w.ElementoMenu(QStringLiteral("mnuCalcularConfina"))->trigger();
+        QCOMPARE(w.PantallaAbierta()->objectName(), QStringLiteral("FM_CONFINA"));
+        QVERIFY(Estado().F_CONFINA);
+        QCOMPARE(Estado().DIAM, 0.5);
+        // The new confinement screen prompts on its way out; the characteristics screen comes
+        // up whatever is answered, and leaves the state as it is.
+        doble_->mensajes.respuestas = {Respuesta::No};
+        Estado().DIAM = 0.7;
+        if (porBarra)
+            w.TB_BARRA_ButtonClick(QStringLiteral("Carac"));
+        else
+            w.ElementoMenu(QStringLiteral("mnuCalcularCarac"))->trigger();
+        QCOMPARE(doble_->mensajes.mostrados.size(), std::size_t{1});
+        QCOMPARE(doble_->mensajes.mostrados[0].texto,
+                 QStringLiteral("Los datos no se han grabado, ¿desea grabar los datos?"));
+        QVERIFY(!Estado().F_CONFINA);
+        QVERIFY(Estado().F_CARAC);
+        QCOMPARE(Estado().DIAM, 0.7);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        QCOMPARE(w.Area()->subWindowList().size(), 1);
+        QCOMPARE(w.PantallaAbierta()->objectName(), QStringLiteral("FM_CARAC"));
+        // Leaving the characteristics asks nothing.
+        w.NuevaFlexion();
+        QCOMPARE(doble_->mensajes.mostrados.size(), std::size_t{1});
+        QVERIFY(!Estado().F_CARAC);
+    }
+
+    void alAbrirCadaPantallaElFocoEstaEnSuPrimerCampo_data()
+    {
+        QTest::addColumn<int>("pantalla");
+        QTest::addColumn<QString>("primero");
+        QTest::newRow("FM_FLEXION") << int(Pantalla::Flexion) << "TX_ANCHO";
+        QTest::newRow("FM_FLEXIONT") << int(Pantalla::FlexionT) << "TX_ANCHO";
+        QTest::newRow("FM_CONFINA") << int(Pantalla::Confina) << "CO_SECCION";
+        QTest::newRow("FM_CARAC") << int(Pantalla::Carac) << "OP_TL";
+    }
+
+    void alAbrirCadaPantallaElFocoEstaEnSuPrimerCampo()
+    {
+        QFETCH(int, pantalla);
+        QFETCH(QString, primero);
+        MdiPrincipal& w = Arranca();
+        w.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&w));
+        Presentacion()->close();
+        w.activateWindow();
+        QTRY_VERIFY(w.isActiveWindow());
+        const auto orden = std::array{&MdiPrincipal::NuevaFlexion, &MdiPrincipal::NuevaFlexionT,
+                                      &MdiPrincipal::NuevoConfinamiento, &MdiPrincipal::Caracteristicas};
+        Estado().F_MODIFICADO = false;
+        (w.*orden[static_cast<std::size_t>(pantalla)])();
+        QTRY_VERIFY(QApplication::focusWidget() != nullptr);
+        QCOMPARE(QApplication::focusWidget(), w.PantallaAbierta()->Control(primero));
+        // The focus alone changes no flag: only the confinement screen's own load does.
+        QCOMPARE(Estado().F_MODIFICADO, pantalla == int(Pantalla::Confina));
     }
 
     void unCambioDeGcSePierdeConLaSiguienteOrdenNueva()
