@@ -34,9 +34,7 @@ QString Utf8(const std::string& texto) { return QString::fromStdString(texto); }
 FmCarac::FmCarac(QWidget* padre)
     : Formulario(QStringLiteral("FM_CARAC"), QStringLiteral("Características mecánicas del refuerzo"), padre)
 {
-    auto* rejilla = new QGridLayout(this);
-    rejilla->setContentsMargins(4, 4, 4, 4);
-    rejilla->setSpacing(4);
+    QGridLayout* rejilla = CreaDisposicion();
     rejilla->addWidget(CreaRefuerzo(), 0, 0);
     rejilla->addWidget(CreaTabla(), 0, 1);
     // The drawing surface has the room of the other screens' pictures for its diagram.

@@ -8,11 +8,13 @@
 #include "screens/Proyecto.h"
 #include "screens/ReglasConfina.h"
 
+#include <QFontMetrics>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
+#include <algorithm>
 
 namespace texalon {
 
@@ -28,12 +30,26 @@ const ReglaCampo& Regla(const char* control)
 QString Utf8(const char* texto) { return QString::fromUtf8(texto); }
 
 // The two panels of data stand one over the other with their fields in one column: the
-// columns of the units and of the coefficient button keep the same width in both.
+// captions take the width of the longest caption of both, whatever room is left goes to the
+// right of the units, and the list of sections spans exactly the field, the unit and the
+// coefficient button.
+constexpr int kAnchoUnidad = 44;
+constexpr int kAnchoBoton = 24;
+constexpr int kSeparacion = 4;
+const char* const kRotulos[] = {"Tipo de sección", "Diámetro/Lado",        "Lado menor",   "Incr. de resistencia",
+                                "Axil actual",     "Coeficiente de forma", "Coef. Poisson"};
+
 void AlineaColumnas(QGridLayout* filas)
 {
-    filas->setColumnMinimumWidth(2, 44);
-    filas->setColumnMinimumWidth(3, 24);
-    filas->setColumnStretch(0, 1);
+    const QFontMetrics medidas(filas->parentWidget()->font());
+    int rotulo = 0;
+    for (const char* texto : kRotulos)
+        rotulo = std::max(rotulo, medidas.horizontalAdvance(QString::fromUtf8(texto)));
+    filas->setHorizontalSpacing(kSeparacion);
+    filas->setColumnMinimumWidth(0, rotulo + kSeparacion);
+    filas->setColumnMinimumWidth(2, kAnchoUnidad);
+    filas->setColumnMinimumWidth(3, kAnchoBoton);
+    filas->setColumnStretch(4, 1);
 }
 
 }  // namespace
@@ -42,9 +58,7 @@ FmConfina::FmConfina(QWidget* padre)
     : FormularioCalculo(
           {QStringLiteral("FM_CONFINA"), QStringLiteral("Refuerzo a confinamiento"), {"CM_CONFINA"}, false}, padre)
 {
-    auto* rejilla = new QGridLayout(this);
-    rejilla->setContentsMargins(4, 4, 4, 4);
-    rejilla->setSpacing(4);
+    QGridLayout* rejilla = CreaDisposicion();
     rejilla->addWidget(CreaDatos(), 0, 0);
     rejilla->addWidget(CreaValoresAdoptados(), 1, 0);
     rejilla->addWidget(
@@ -99,15 +113,12 @@ FmConfina::FmConfina(QWidget* padre)
 QWidget* FmConfina::CreaDatos()
 {
     QGroupBox* marco = CreaMarco("Frame2", QStringLiteral("Datos de la sección"));
-    auto* filas = new QGridLayout(marco);
-    filas->setContentsMargins(6, 6, 6, 6);
-    filas->setVerticalSpacing(2);
-    filas->setHorizontalSpacing(4);
+    QGridLayout* filas = CreaFilas(marco);
 
     // A pure list, as wide as its longest row, over the columns of the fields and their units.
     seccion_ = Registra(new ListaDesplegable(false, marco), "CO_SECCION");
     seccion_->setAccessibleName(QStringLiteral("Tipo de sección"));
-    seccion_->setFixedHeight(kAltoControl);
+    seccion_->setFixedSize(kAnchoCampo + kAnchoUnidad + kAnchoBoton + 2 * kSeparacion, kAltoControl);
     ProtegeClic(seccion_);
     QLabel* tipo = CreaEtiqueta(QStringLiteral("Tipo de sección"), marco);
     tipo->setBuddy(seccion_);
@@ -134,10 +145,7 @@ QWidget* FmConfina::CreaDatos()
 QWidget* FmConfina::CreaValoresAdoptados()
 {
     QGroupBox* marco = CreaMarco("Frame3", QStringLiteral("Valores adoptados en el cálculo"));
-    auto* filas = new QGridLayout(marco);
-    filas->setContentsMargins(6, 6, 6, 6);
-    filas->setVerticalSpacing(2);
-    filas->setHorizontalSpacing(4);
+    QGridLayout* filas = CreaFilas(marco);
     // They show what the system fixes; no check reads them and they feed nothing.
     for (const auto& [nombre, etiqueta] : {std::pair{"TX_ALFAN", "Coeficiente de forma"}, {"TX_NU", "Coef. Poisson"}}) {
         auto* campo = Registra(new CampoResultado(QString::fromLatin1(nombre), Utf8(etiqueta), marco));

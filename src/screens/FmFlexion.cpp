@@ -62,9 +62,7 @@ FmFlexion::FmFlexion(bool seccionT, QWidget* padre)
                         padre),
       seccionT_(seccionT)
 {
-    auto* rejilla = new QGridLayout(this);
-    rejilla->setContentsMargins(4, 4, 4, 4);
-    rejilla->setSpacing(4);
+    QGridLayout* rejilla = CreaDisposicion();
     rejilla->addWidget(CreaDatos(), 0, 0);
     rejilla->addWidget(CreaMarcoRejilla("FG_FLEXION", QStringLiteral("Momento último de la sección reforzada (mkN)")),
                        0, 1);
@@ -126,10 +124,7 @@ FmFlexion::FmFlexion(bool seccionT, QWidget* padre)
 QWidget* FmFlexion::CreaDatos()
 {
     QGroupBox* marco = CreaMarco("Frame2", QStringLiteral("Datos de la sección"));
-    auto* filas = new QGridLayout(marco);
-    filas->setContentsMargins(6, 6, 6, 6);
-    filas->setVerticalSpacing(2);
-    filas->setHorizontalSpacing(4);
+    QGridLayout* filas = CreaFilas(marco);
     const auto& reglas = ReglasFlexion(seccionT_);
     const auto campo = [&](const char* nombre) -> QWidget* {
         for (const ReglaCampo& regla : reglas)

@@ -23,6 +23,23 @@ QWidget* Formulario::Control(const QString& nombre) const
     return it == controles_.end() ? nullptr : it->second;
 }
 
+QGridLayout* Formulario::CreaDisposicion()
+{
+    auto* disposicion = new QGridLayout(this);
+    disposicion->setContentsMargins(4, 4, 4, 4);
+    disposicion->setSpacing(4);
+    return disposicion;
+}
+
+QGridLayout* Formulario::CreaFilas(QWidget* marco)
+{
+    auto* filas = new QGridLayout(marco);
+    filas->setContentsMargins(6, 6, 6, 6);
+    filas->setVerticalSpacing(2);
+    filas->setHorizontalSpacing(4);
+    return filas;
+}
+
 QGroupBox* Formulario::CreaMarco(const char* nombre, const QString& titulo)
 {
     auto* marco = new QGroupBox(titulo, this);

@@ -43,6 +43,11 @@ protected:
         return control;
     }
 
+    // The grid that holds the screen's panels, and the grid of the rows of one panel, with the
+    // margins and spacings of every screen.
+    QGridLayout* CreaDisposicion();
+    static QGridLayout* CreaFilas(QWidget* marco);
+
     // A panel with its caption, named as the screen's frames are ("Frame2").
     QGroupBox* CreaMarco(const char* nombre, const QString& titulo);
 
