@@ -1,3 +1,4 @@
+#include "comun/Pantallas.h"
 #include "comun/Usuario.h"
 #include "platform/dobles/PlataformaDoble.h"
 #include "screens/FmCarac.h"
@@ -17,12 +18,12 @@
 using namespace texalon;
 using namespace texalon::plataforma;
 
-class PruebaCarac : public QObject {
+class PruebaCarac : public prueba::PruebaDePantalla {
     Q_OBJECT
 
-    std::unique_ptr<PlataformaDoble> doble_;
     QPointer<FmCarac> pantalla_;
-    char separador_ = ',';
+
+    Formulario* EnPrueba() const override { return pantalla_; }
 
     FmCarac& Abre(char separador = ',', double gr = 1.4)
     {
@@ -30,10 +31,7 @@ class PruebaCarac : public QObject {
         Estado() = General{};
         ValoresIniciales(Estado());
         Estado().GR = gr;
-        doble_.reset();
-        doble_ = std::make_unique<PlataformaDoble>();
-        doble_->regional.separador = separador;
-        separador_ = separador;
+        NuevosDobles(separador);
         pantalla_ = new FmCarac;
         pantalla_->show();
         pantalla_->activateWindow();
@@ -41,17 +39,8 @@ class PruebaCarac : public QObject {
         return *pantalla_;
     }
 
-    QWidget* C(const char* nombre) { return pantalla_->Control(QString::fromLatin1(nombre)); }
-    QLineEdit* Campo(const char* nombre) { return qobject_cast<QLineEdit*>(C(nombre)); }
     QRadioButton* Opcion(const char* nombre) { return qobject_cast<QRadioButton*>(C(nombre)); }
     RejillaResultados* Rejilla() { return qobject_cast<RejillaResultados*>(C("FG_EPSD")); }
-    QString Sep(const char* texto) const
-    {
-        QString s = QString::fromUtf8(texto);
-        if (separador_ == '.') s.replace(QLatin1Char(','), QLatin1Char('.'));
-        return s;
-    }
-
     QStringList Fila(int fila)
     {
         QStringList textos;
@@ -61,19 +50,9 @@ class PruebaCarac : public QObject {
     }
 
 private slots:
-    void cleanup()
-    {
-        if (pantalla_) pantalla_->close();
-        delete pantalla_;
-        doble_.reset();
-    }
+    void cleanup() { CierraPantalla(); }
 
-    void alAbrirMuestraElTipoUno_data()
-    {
-        QTest::addColumn<char>("separador");
-        QTest::newRow("coma") << ',';
-        QTest::newRow("punto") << '.';
-    }
+    void alAbrirMuestraElTipoUno_data() { prueba::FilasSeparador(); }
 
     void alAbrirMuestraElTipoUno()
     {

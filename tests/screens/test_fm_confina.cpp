@@ -1,3 +1,4 @@
+#include "comun/Pantallas.h"
 #include "comun/Usuario.h"
 #include "platform/dobles/PlataformaDoble.h"
 #include "screens/CampoResultado.h"
@@ -32,12 +33,12 @@ const QString kPregunta = QStringLiteral("Los datos no se han grabado, ¿desea g
 
 }  // namespace
 
-class PruebaConfina : public QObject {
+class PruebaConfina : public prueba::PruebaDePantalla {
     Q_OBJECT
 
-    std::unique_ptr<PlataformaDoble> doble_;
     QPointer<FmConfina> pantalla_;
-    char separador_ = ',';
+
+    Formulario* EnPrueba() const override { return pantalla_; }
 
     // A fresh state with the start values, changed as the test needs before the load, and the
     // screen loaded over it, shown and active.
@@ -47,11 +48,7 @@ class PruebaConfina : public QObject {
         Estado() = General{};
         ValoresIniciales(Estado());
         if (prepara) prepara(Estado());
-        // One double at a time: the one going puts back what was there before it.
-        doble_.reset();
-        doble_ = std::make_unique<PlataformaDoble>();
-        doble_->regional.separador = separador;
-        separador_ = separador;
+        NuevosDobles(separador);
         pantalla_ = new FmConfina;
         pantalla_->show();
         pantalla_->activateWindow();
@@ -69,28 +66,10 @@ class PruebaConfina : public QObject {
         });
     }
 
-    QWidget* C(const char* nombre) { return pantalla_->Control(QString::fromLatin1(nombre)); }
-    QLineEdit* Campo(const char* nombre) { return qobject_cast<QLineEdit*>(C(nombre)); }
-    QComboBox* Lista(const char* nombre) { return qobject_cast<QComboBox*>(C(nombre)); }
     QComboBox* Seccion() { return Lista("CO_SECCION"); }
     RejillaResultados* Rejilla() { return qobject_cast<RejillaResultados*>(C("FG_CONFINA")); }
     QLabel* Etiqueta(const char* nombre) { return qobject_cast<QLabel*>(C(nombre)); }
-    QString Sep(const char* texto) const
-    {
-        QString s = QString::fromUtf8(texto);
-        if (separador_ == '.') s.replace(QLatin1Char(','), QLatin1Char('.'));
-        return s;
-    }
-
     void Escribe(const char* nombre, const QString& texto) { prueba::EscribeYTabula(C(nombre), texto); }
-
-    QStringList Mensajes() const
-    {
-        QStringList lista;
-        for (const auto& m : doble_->mensajes.mostrados)
-            lista << m.texto;
-        return lista;
-    }
 
     void Calcula() { prueba::Pulsa(C("CM_CALCULAR")); }
 
@@ -116,33 +95,12 @@ class PruebaConfina : public QObject {
             QTest::keyClick(Seccion(), tecla);
     }
 
-    static std::string Contenido(const QString& fichero)
-    {
-        std::ifstream leido(fichero.toStdString(), std::ios::binary);
-        std::stringstream contenido;
-        contenido << leido.rdbuf();
-        return contenido.str();
-    }
-
 private slots:
-    void cleanup()
-    {
-        if (pantalla_) {
-            doble_->mensajes.respuestas.clear();
-            pantalla_->close();
-        }
-        delete pantalla_;
-        doble_.reset();
-    }
+    void cleanup() { CierraPantalla(); }
 
     // ---- The load.
 
-    void cargaConTituloPanelesYCampos_data()
-    {
-        QTest::addColumn<char>("separador");
-        QTest::newRow("coma") << ',';
-        QTest::newRow("punto") << '.';
-    }
+    void cargaConTituloPanelesYCampos_data() { prueba::FilasSeparador(); }
 
     void cargaConTituloPanelesYCampos()
     {
@@ -547,12 +505,7 @@ private slots:
         QVERIFY(Mensajes().isEmpty());
     }
 
-    void aceptarReescribeEnSuFormatoYApagaSoloElDiagrama_data()
-    {
-        QTest::addColumn<char>("separador");
-        QTest::newRow("coma") << ',';
-        QTest::newRow("punto") << '.';
-    }
+    void aceptarReescribeEnSuFormatoYApagaSoloElDiagrama_data() { prueba::FilasSeparador(); }
 
     void aceptarReescribeEnSuFormatoYApagaSoloElDiagrama()
     {
@@ -721,12 +674,7 @@ private slots:
 
     // ---- The calculation.
 
-    void calculoPorDefecto_data()
-    {
-        QTest::addColumn<char>("separador");
-        QTest::newRow("coma") << ',';
-        QTest::newRow("punto") << '.';
-    }
+    void calculoPorDefecto_data() { prueba::FilasSeparador(); }
 
     void calculoPorDefecto()
     {
@@ -955,12 +903,7 @@ private slots:
         QCOMPARE(prueba::RecorridoTab(3), QStringList({"TX_DIAM", "TX_INCR", "TX_NCP"}));
     }
 
-    void deUnExtremoAOtroComoUnUsuario_data()
-    {
-        QTest::addColumn<char>("separador");
-        QTest::newRow("coma") << ',';
-        QTest::newRow("punto") << '.';
-    }
+    void deUnExtremoAOtroComoUnUsuario_data() { prueba::FilasSeparador(); }
 
     void deUnExtremoAOtroComoUnUsuario()
     {

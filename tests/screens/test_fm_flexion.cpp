@@ -1,3 +1,4 @@
+#include "comun/Pantallas.h"
 #include "comun/Usuario.h"
 #include "engine/Calculos.h"
 #include "platform/dobles/PlataformaDoble.h"
@@ -23,12 +24,12 @@
 using namespace texalon;
 using namespace texalon::plataforma;
 
-class PruebaFlexion : public QObject {
+class PruebaFlexion : public prueba::PruebaDePantalla {
     Q_OBJECT
 
-    std::unique_ptr<PlataformaDoble> doble_;
     QPointer<FmFlexion> pantalla_;
-    char separador_ = ',';
+
+    Formulario* EnPrueba() const override { return pantalla_; }
 
     // A fresh state with the start values, and the screen loaded over it.
     FmFlexion& Abre(bool seccionT = false, char separador = ',')
@@ -36,9 +37,7 @@ class PruebaFlexion : public QObject {
         delete pantalla_;
         Estado() = General{};
         ValoresIniciales(Estado());
-        doble_ = std::make_unique<PlataformaDoble>();
-        doble_->regional.separador = separador;
-        separador_ = separador;
+        NuevosDobles(separador);
         pantalla_ = new FmFlexion(seccionT);
         pantalla_->show();
         pantalla_->activateWindow();
@@ -46,16 +45,7 @@ class PruebaFlexion : public QObject {
         return *pantalla_;
     }
 
-    QWidget* C(const char* nombre) { return pantalla_->Control(QString::fromLatin1(nombre)); }
-    QLineEdit* Campo(const char* nombre) { return qobject_cast<QLineEdit*>(C(nombre)); }
-    QComboBox* Lista(const char* nombre) { return qobject_cast<QComboBox*>(C(nombre)); }
     RejillaResultados* Rejilla() { return qobject_cast<RejillaResultados*>(C("FG_FLEXION")); }
-    QString Sep(const char* texto) const
-    {
-        QString s = QString::fromUtf8(texto);
-        if (separador_ == '.') s.replace(QLatin1Char(','), QLatin1Char('.'));
-        return s;
-    }
 
     // Types a text into a field and leaves it with Tab, as a user would.
     void Escribe(const char* nombre, const QString& texto) { prueba::EscribeYTabula(C(nombre), texto); }
@@ -69,14 +59,6 @@ class PruebaFlexion : public QObject {
         C("CM_CALCULAR")->setFocus(Qt::MouseFocusReason);
     }
 
-    QStringList Mensajes() const
-    {
-        QStringList lista;
-        for (const auto& m : doble_->mensajes.mostrados)
-            lista << m.texto;
-        return lista;
-    }
-
     bool BotonesResultado(bool activos)
     {
         for (const char* b : {"CM_ANCLAJE", "CM_ARMADURA", "CM_CAPAS", "CM_DEFORMACIONES"})
@@ -87,15 +69,7 @@ class PruebaFlexion : public QObject {
     void Calcula() { prueba::Pulsa(C("CM_CALCULAR")); }
 
 private slots:
-    void cleanup()
-    {
-        if (pantalla_) {
-            doble_->mensajes.respuestas.clear();
-            pantalla_->close();
-        }
-        delete pantalla_;
-        doble_.reset();
-    }
+    void cleanup() { CierraPantalla(); }
 
     void cargaConTituloYCamposDelEstado()
     {
@@ -186,12 +160,7 @@ private slots:
         QCOMPARE(Campo("TX_RECUB")->selectedText(), QStringLiteral("12a"));
     }
 
-    void negativoSeAceptaComoPositivo_data()
-    {
-        QTest::addColumn<char>("separador");
-        QTest::newRow("coma") << ',';
-        QTest::newRow("punto") << '.';
-    }
+    void negativoSeAceptaComoPositivo_data() { prueba::FilasSeparador(); }
 
     void negativoSeAceptaComoPositivo()
     {
@@ -522,10 +491,7 @@ private slots:
         QCOMPARE(doble_->ficheros.guardados[0].filtro, QStringLiteral("Archivos TEXALON - Flexión|*.VMF"));
         QVERIFY(Estado().F_GRABADO);
         QVERIFY(!Estado().F_MODIFICADO);
-        std::ifstream leido(fichero.toStdString(), std::ios::binary);
-        std::stringstream contenido;
-        contenido << leido.rdbuf();
-        QCOMPARE(QString::fromStdString(contenido.str()),
+        QCOMPARE(QString::fromStdString(Contenido(fichero)),
                  QStringLiteral(
                      "1\r\n0.4\r\n0.6\r\n0.05\r\n10\r\n0\r\n25\r\n500\r\n1.5\r\n1.15\r\n1.4\r\n0.125\r\n0\r\n0\r\n"));
         QFile::remove(fichero);

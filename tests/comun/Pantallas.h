@@ -1,0 +1,55 @@
+// What the widget tests of the screens share: the platform doubles, the decimal setting under
+// which a test runs, and the controls of the screen in test by their names.
+#pragma once
+
+#include "platform/dobles/PlataformaDoble.h"
+
+#include <QObject>
+#include <QString>
+#include <QStringList>
+#include <memory>
+#include <string>
+
+class QComboBox;
+class QLineEdit;
+class QWidget;
+
+namespace texalon {
+class Formulario;
+}
+
+namespace texalon::prueba {
+
+// The two decimal settings, as the data rows "coma" and "punto" of a column "separador".
+void FilasSeparador();
+
+class PruebaDePantalla : public QObject {
+protected:
+    // The screen the test is working on.
+    virtual Formulario* EnPrueba() const = 0;
+
+    QWidget* C(const char* nombre) const;
+    QLineEdit* Campo(const char* nombre) const;
+    QComboBox* Lista(const char* nombre) const;
+
+    // Fresh doubles answering with this decimal separator; the ones before go first, since a
+    // double going puts back what was there before it.
+    void NuevosDobles(char separador);
+
+    // A number of the test data, written with a comma, as the machine in use writes it.
+    QString Sep(const char* texto) const;
+
+    // The texts of the messages shown so far.
+    QStringList Mensajes() const;
+
+    // The end of a test: the screen closed, its prompt answered No, the doubles gone.
+    void CierraPantalla();
+
+    // A file's bytes, as the program wrote them.
+    static std::string Contenido(const QString& fichero);
+
+    std::unique_ptr<plataforma::PlataformaDoble> doble_;
+    char separador_ = ',';
+};
+
+}  // namespace texalon::prueba
