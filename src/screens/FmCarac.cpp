@@ -63,10 +63,10 @@ QWidget* FmCarac::CreaRefuerzo()
     const char* const rotulos[] = {"TIPO L", "TIPO H", "TIPO X"};
     for (int i = 0; i < 3; ++i) {
         opciones_[i] = Registra(new QRadioButton(QString::fromLatin1(rotulos[i]), marco), nombres[i]);
-        // A click on the option already selected runs the same steps again.
+        // A click on the option already selected runs the same steps again. The stress-strain
+        // diagram of the option's type is drawn after them once the diagrams exist.
         connect(opciones_[i], &QRadioButton::clicked, this,
                 [this] { plataforma::AtrapaErrorFatal([this] { CargaCaracteristicas(); }); });
-        // The type's diagram is drawn here, for this option's type, once the diagrams exist.
         tipos->addWidget(opciones_[i]);
     }
     opciones_[0]->setChecked(true);
