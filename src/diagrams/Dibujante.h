@@ -9,7 +9,7 @@
 
 namespace texalon {
 
-// The pictures of the program, one per calculation screen.
+// The four screens of the program, each with its picture.
 enum class Pantalla {
     Flexion,  // PIC_FLEXION of FM_FLEXION
     FlexionT,  // PIC_FLEXION of FM_FLEXIONT
