@@ -1,5 +1,7 @@
 #include "screens/FmCarac.h"
 
+#include "diagrams/Grafico.h"
+#include "diagrams/qt/Lienzo.h"
 #include "engine/Caracteristicas.h"
 #include "platform/Plataforma.h"
 #include "screens/CampoResultado.h"
@@ -24,7 +26,6 @@ constexpr int kAltoFila = 300;
 constexpr int kAnchoColumna = 915;
 constexpr int kAnchoColumna0 = 525;
 
-constexpr int kAltoDibujo = 240;
 constexpr int kAnchoLeyenda = 180;
 
 QString Utf8(const std::string& texto) { return QString::fromStdString(texto); }
@@ -37,10 +38,7 @@ FmCarac::FmCarac(QWidget* padre)
     QGridLayout* rejilla = CreaDisposicion();
     rejilla->addWidget(CreaRefuerzo(), 0, 0);
     rejilla->addWidget(CreaTabla(), 0, 1);
-    // The drawing surface has the room of the other screens' pictures for its diagram.
-    QFrame* dibujo = CreaDibujo("PIC_CARAC");
-    dibujo->setMinimumHeight(kAltoDibujo);
-    rejilla->addWidget(dibujo, 1, 0, 1, 2);
+    rejilla->addWidget(CreaDibujo("PIC_CARAC", Pantalla::Carac), 1, 0, 1, 2);
     rejilla->setRowStretch(1, 1);
     rejilla->setColumnStretch(1, 1);
     OrdenaTabulacion({"OP_TL", "OP_TH", "OP_TX"});
@@ -48,7 +46,7 @@ FmCarac::FmCarac(QWidget* padre)
     // The load.
     Estado().F_CARAC = true;
     CargaCaracteristicas();
-    // The stress-strain diagram of type 1 is drawn here once the diagrams exist.
+    DiagramaTension(1);
 }
 
 QWidget* FmCarac::CreaRefuerzo()
@@ -63,10 +61,14 @@ QWidget* FmCarac::CreaRefuerzo()
     const char* const rotulos[] = {"TIPO L", "TIPO H", "TIPO X"};
     for (int i = 0; i < 3; ++i) {
         opciones_[i] = Registra(new QRadioButton(QString::fromLatin1(rotulos[i]), marco), nombres[i]);
-        // A click on the option already selected runs the same steps again. The stress-strain
-        // diagram of the option's type is drawn after them once the diagrams exist.
-        connect(opciones_[i], &QRadioButton::clicked, this,
-                [this] { plataforma::AtrapaErrorFatal([this] { CargaCaracteristicas(); }); });
+        // A click on the option already selected runs the same steps again, and draws the
+        // stress-strain diagram of the option's type.
+        connect(opciones_[i], &QRadioButton::clicked, this, [this, i] {
+            plataforma::AtrapaErrorFatal([this, i] {
+                CargaCaracteristicas();
+                DiagramaTension(static_cast<Entero>(i + 1));
+            });
+        });
         tipos->addWidget(opciones_[i]);
     }
     opciones_[0]->setChecked(true);
@@ -164,6 +166,11 @@ void FmCarac::CargaCaracteristicas()
             rejilla_->EscribeCelda(n, columna,
                                    Utf8(t.filas[static_cast<std::size_t>(n - 1)][static_cast<std::size_t>(columna)]));
     rejilla_->AjustaLetra();
+}
+
+void FmCarac::DiagramaTension(Entero tipo)
+{
+    texalon::DiagramaTension(Estado(), EstadoDibujo(), tipo, plataforma::ServicioRegional().SeparadorDecimal());
 }
 
 void FmCarac::closeEvent(QCloseEvent* evento)

@@ -23,6 +23,8 @@ public:
     void CargaCaracteristicas();
     // The type of the selected option: OP_TL is tested first, then OP_TH, then OP_TX.
     int TipoElegido() const;
+    // The stress-strain diagram of the sheet type `tipo`, whose design strains are in EPSD.
+    void DiagramaTension(Entero tipo);
 
 protected:
     void closeEvent(QCloseEvent* evento) override;

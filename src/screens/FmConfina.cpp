@@ -1,5 +1,8 @@
 #include "screens/FmConfina.h"
 
+#include "diagrams/Grafico.h"
+#include "diagrams/qt/Lienzo.h"
+
 #include "files/Copias.h"
 #include "files/Ficheros.h"
 #include "platform/Plataforma.h"
@@ -78,13 +81,18 @@ FmConfina::FmConfina(QWidget* padre)
                                    {{"CM_SECCION", "Sección", "boton_seccion"},
                                     {"CM_CONFINA", "Diagrama Capas-Incremento de resistencia", "boton_confina"}}),
                        0, 2, Qt::AlignTop);
-    rejilla->addWidget(CreaDibujoConVeredicto("PIC_CONFINA", QString::fromUtf8(TextoVeredicto(Veredicto::NoSePuede))),
+    rejilla->addWidget(CreaDibujoConVeredicto("PIC_CONFINA", Pantalla::Confina,
+                                              QString::fromUtf8(TextoVeredicto(Veredicto::NoSePuede))),
                        1, 1, 2, 2);
     rejilla->setRowStretch(2, 1);
     rejilla->setColumnStretch(1, 1);
     OrdenaTabulacion({"CO_SECCION", "TX_DIAM", "TX_LADOMENOR", "TX_INCR", "TX_NCP", "CO_FCK", "CM_GAMMA1",
                       "CM_CALCULAR", "CM_SECCION", "CM_CONFINA", "FG_CONFINA"});
     ActivaResultados(false);
+    ConectaDiagrama("CM_SECCION", [] {
+        DibujaSeccionConfina(Estado(), EstadoDibujo(), plataforma::ServicioRegional().SeparadorDecimal());
+    });
+    ConectaDiagrama("CM_CONFINA", [this] { GraficoDelCalculo(); });
 
     // The load.
     General& g = Estado();
@@ -251,6 +259,11 @@ void FmConfina::CopiaAlEstado()
     CopiaConfina(Estado(),
                  {texto("TX_DIAM"), texto("TX_LADOMENOR"), texto("CO_FCK"), texto("TX_NCP"), texto("TX_INCR")},
                  seccion_->currentIndex());
+}
+
+void FmConfina::GraficoDelCalculo()
+{
+    DiagramaConfina(Estado(), EstadoDibujo(), plataforma::ServicioRegional().SeparadorDecimal());
 }
 
 bool FmConfina::PideFichero(General& g) const { return PideFicheroConfina(g); }

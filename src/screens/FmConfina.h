@@ -28,6 +28,7 @@ protected:
     CeldaResultado Celda(int tipo, int capas) const override;
     void MuestraCelda(int tipo, int capas) override;
     void BajaBandera(General& g) override;
+    void GraficoDelCalculo() override;
     bool eventFilter(QObject* objeto, QEvent* evento) override;
 
 private:

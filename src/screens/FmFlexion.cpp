@@ -1,5 +1,7 @@
 #include "screens/FmFlexion.h"
 
+#include "diagrams/Grafico.h"
+#include "diagrams/qt/Lienzo.h"
 #include "engine/Calculos.h"
 #include "files/Ficheros.h"
 #include "platform/Plataforma.h"
@@ -88,7 +90,8 @@ FmFlexion::FmFlexion(bool seccionT, QWidget* padre)
                               {"TX_EPSSI", "ε<sub>s inf</sub>", "‰", "Deformación de la armadura inferior"},
                               {"TX_EPSR", "ε<sub>r</sub>", "‰", "Deformación del refuerzo TEXALON®"}}}),
         1, 0);
-    rejilla->addWidget(CreaDibujoConVeredicto("PIC_FLEXION", QStringLiteral(" NO ES NECESARIO REFORZAR LA SECCIÓN ")),
+    rejilla->addWidget(CreaDibujoConVeredicto("PIC_FLEXION", seccionT ? Pantalla::FlexionT : Pantalla::Flexion,
+                                              QStringLiteral(" NO ES NECESARIO REFORZAR LA SECCIÓN ")),
                        1, 1, 1, 2);
     rejilla->setRowStretch(1, 1);
     rejilla->setColumnStretch(1, 1);
@@ -97,6 +100,10 @@ FmFlexion::FmFlexion(bool seccionT, QWidget* padre)
     connect(anclaje, &QPushButton::clicked, this, [this, anclaje] {
         if (BotonConFoco(anclaje)) plataforma::AtrapaErrorFatal([this] { OrdenAnclaje(this); });
     });
+    ConectaDiagrama("CM_SECCION", [this] { DibujaSeccion(); });
+    ConectaDiagrama("CM_DEFORMACIONES", [this] { DiagramaPivotes(); });
+    ConectaDiagrama("CM_ARMADURA", [this] { DiagramaMomentoArea(); });
+    ConectaDiagrama("CM_CAPAS", [this] { DiagramaMomentoCapas(); });
 
     std::vector<const char*> orden = {"TX_ANCHO"};
     if (seccionT_) orden.push_back("TX_ANCHOALMA");
@@ -192,8 +199,8 @@ CeldaResultado FmFlexion::Celda(int tipo, int capas) const
 void FmFlexion::ResultadosFlexion(int tipo, int capas)
 {
     General& g = Estado();
-    const ResultadosCeldaFlexion r =
-        texalon::ResultadosFlexion(g, tipo, capas, plataforma::ServicioRegional().SeparadorDecimal());
+    celdaMostrada_ = texalon::ResultadosFlexion(g, tipo, capas, plataforma::ServicioRegional().SeparadorDecimal());
+    const ResultadosCeldaFlexion& r = celdaMostrada_;
     MuestraTipo(r.tipo);
     Muestra({{"TX_MUSR", &r.MUSR},
              {"TX_EPS0", &r.EPS0},
@@ -213,9 +220,49 @@ void FmFlexion::MuestraCelda(int tipo, int capas) { ResultadosFlexion(tipo, capa
 
 void FmFlexion::CeldaElegida(int tipo, int capas)
 {
-    Control(QStringLiteral("CM_DEFORMACIONES"))->setEnabled(Estado().MU(tipo, capas) != kSinMejora);
-    // The strain diagram, when it is the one on show, is drawn again here for this cell once
-    // the diagrams exist.
+    const bool conResultado = Estado().MU(tipo, capas) != kSinMejora;
+    Control(QStringLiteral("CM_DEFORMACIONES"))->setEnabled(conResultado);
+    // The strain diagram follows the cell while it is on show; any other diagram stays, and a
+    // cell without a result leaves the picture as it is.
+    if (conResultado && EstadoDibujo().F_PIVOTES) DiagramaPivotes();
+}
+
+void FmFlexion::GraficoDelCalculo() { DiagramaMomentoCapas(); }
+
+void FmFlexion::DiagramaPivotes()
+{
+    const char separador = plataforma::ServicioRegional().SeparadorDecimal();
+    if (seccionT_)
+        texalon::DiagramaPivotesT(Estado(), EstadoDibujo(), celdaMostrada_, separador);
+    else
+        texalon::DiagramaPivotes(Estado(), EstadoDibujo(), celdaMostrada_, separador);
+}
+
+void FmFlexion::DiagramaMomentoCapas()
+{
+    const char separador = plataforma::ServicioRegional().SeparadorDecimal();
+    if (seccionT_)
+        texalon::DiagramaMomentoCapasT(Estado(), EstadoDibujo(), separador);
+    else
+        texalon::DiagramaMomentoCapas(Estado(), EstadoDibujo(), separador);
+}
+
+void FmFlexion::DiagramaMomentoArea()
+{
+    const char separador = plataforma::ServicioRegional().SeparadorDecimal();
+    if (seccionT_)
+        texalon::DiagramaMomentoAreaT(Estado(), EstadoDibujo(), separador);
+    else
+        texalon::DiagramaMomentoArea(Estado(), EstadoDibujo(), separador);
+}
+
+void FmFlexion::DibujaSeccion()
+{
+    const char separador = plataforma::ServicioRegional().SeparadorDecimal();
+    if (seccionT_)
+        texalon::DibujaSeccionT(Estado(), EstadoDibujo(), separador);
+    else
+        texalon::DibujaSeccion(Estado(), EstadoDibujo(), separador);
 }
 
 void FmFlexion::BajaBandera(General& g)

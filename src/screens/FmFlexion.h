@@ -30,6 +30,7 @@ protected:
     CeldaResultado Celda(int tipo, int capas) const override;
     void MuestraCelda(int tipo, int capas) override;
     void CeldaElegida(int tipo, int capas) override;
+    void GraficoDelCalculo() override;
     void BajaBandera(General& g) override;
 
 private:
@@ -37,7 +38,15 @@ private:
     void EscribeFilasAnchoRefuerzo();
     TextosFlexion Textos() const;
 
+    // The diagrams of the screen, each the rectangular or T procedure as the screen is.
+    void DiagramaPivotes();
+    void DiagramaMomentoCapas();
+    void DiagramaMomentoArea();
+    void DibujaSeccion();
+
     bool seccionT_;
+    // The texts of the cell that the result fields show: the strain diagram reads them.
+    ResultadosCeldaFlexion celdaMostrada_;
 };
 
 }  // namespace texalon

@@ -1,5 +1,7 @@
 #include "screens/Formulario.h"
 
+#include "diagrams/qt/Lienzo.h"
+
 #include <QApplication>
 #include <QFrame>
 #include <QGridLayout>
@@ -72,17 +74,9 @@ Formulario::Rotulos Formulario::AnadeFila(QGridLayout* filas, const QString& eti
     return rotulos;
 }
 
-QFrame* Formulario::CreaDibujo(const char* nombre)
+Lienzo* Formulario::CreaDibujo(const char* nombre, Pantalla pantalla)
 {
-    auto* dibujo = new QFrame(this);
-    dibujo->setObjectName(QString::fromLatin1(nombre));
-    dibujo->setFrameShape(QFrame::StyledPanel);
-    dibujo->setFrameShadow(QFrame::Sunken);
-    dibujo->setAutoFillBackground(true);
-    QPalette blanco = dibujo->palette();
-    blanco.setColor(QPalette::Window, Qt::white);
-    dibujo->setPalette(blanco);
-    return Registra(dibujo);
+    return Registra(new Lienzo(pantalla, this), nombre);
 }
 
 void Formulario::OrdenaTabulacion(const std::vector<const char*>& nombres)

@@ -3,6 +3,8 @@
 // its unload for the main window.
 #pragma once
 
+#include "diagrams/Dibujante.h"
+
 #include <QString>
 #include <QWidget>
 #include <map>
@@ -12,6 +14,10 @@ class QFrame;
 class QGridLayout;
 class QGroupBox;
 class QLabel;
+
+namespace texalon {
+class Lienzo;
+}
 
 namespace texalon {
 
@@ -65,8 +71,9 @@ protected:
     Rotulos AnadeFila(QGridLayout* filas, const QString& etiqueta, QWidget* control, const QString& unidad,
                       QWidget* otro = nullptr, const QString& otraUnidad = {});
 
-    // The white drawing surface of the screen's diagrams (PIC_FLEXION...).
-    QFrame* CreaDibujo(const char* nombre);
+    // The white picture of the screen's diagrams (PIC_FLEXION...), the one the diagram
+    // procedures of `pantalla` draw on while the screen lives.
+    Lienzo* CreaDibujo(const char* nombre, Pantalla pantalla);
 
     // Tab goes through the controls in this order, the reading order of the screen: down the
     // data panel row by row, left to right within a row, then the buttons, then the grid,

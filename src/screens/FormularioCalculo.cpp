@@ -1,5 +1,6 @@
 #include "screens/FormularioCalculo.h"
 
+#include "diagrams/qt/Lienzo.h"
 #include "platform/Plataforma.h"
 #include "screens/CampoResultado.h"
 #include "screens/Entrada.h"
@@ -29,8 +30,8 @@ constexpr int kAnchoColumna = 1595;
 constexpr int kAnchoColumna0 = 1000;
 
 // QBColor 2, green, and QBColor 12, light red.
-const QColor kVerde(0, 128, 0);
-const QColor kRojo(255, 0, 0);
+const QColor kVerdeVeredicto(0, 128, 0);
+const QColor kRojoVeredicto(255, 0, 0);
 
 }  // namespace
 
@@ -163,16 +164,20 @@ QGroupBox* FormularioCalculo::CreaMarcoResultados(const char* nombre, const QStr
     return marco;
 }
 
-QFrame* FormularioCalculo::CreaDibujoConVeredicto(const char* nombre, const QString& textoVeredicto)
+Lienzo* FormularioCalculo::CreaDibujoConVeredicto(const char* nombre, Pantalla pantalla,
+                                                  const QString& textoVeredicto)
 {
-    QFrame* dibujo = CreaDibujo(nombre);
-    info_ = CreaEtiqueta(textoVeredicto, dibujo, "LB_INFO");
+    Lienzo* dibujo = CreaDibujo(nombre, pantalla);
+    // The verdict stands on the picture; the clicks of the zoom pass through it.
+    QWidget* superficie = dibujo->viewport();
+    info_ = CreaEtiqueta(textoVeredicto, superficie, "LB_INFO");
+    info_->setAttribute(Qt::WA_TransparentForMouseEvents);
     QFont negrita = info_->font();
     negrita.setBold(true);
     info_->setFont(negrita);
     info_->setAlignment(Qt::AlignCenter);
     info_->setVisible(false);
-    auto* capas = new QVBoxLayout(dibujo);
+    auto* capas = new QVBoxLayout(superficie);
     capas->addWidget(info_, 0, Qt::AlignTop | Qt::AlignHCenter);
     capas->addStretch(1);
     return dibujo;
@@ -276,7 +281,7 @@ void FormularioCalculo::Calcular()
     rejilla_->Activa(true);
     rejilla_->setFocus();
     rejilla_->CeldaActual(1, 1);
-    // The screen's chart is drawn here once the diagrams exist.
+    GraficoDelCalculo();
 }
 
 void FormularioCalculo::TablaResultados()
@@ -305,7 +310,7 @@ void FormularioCalculo::MuestraVeredicto(Veredicto veredicto)
     }
     info_->setText(Texto(TextoVeredicto(veredicto)));
     QPalette color = info_->palette();
-    color.setColor(QPalette::WindowText, veredicto == Veredicto::NoEsNecesario ? kVerde : kRojo);
+    color.setColor(QPalette::WindowText, veredicto == Veredicto::NoEsNecesario ? kVerdeVeredicto : kRojoVeredicto);
     info_->setPalette(color);
     info_->setVisible(true);
 }
@@ -319,6 +324,14 @@ void FormularioCalculo::ClicEnRejilla(int fila, int columna)
 }
 
 void FormularioCalculo::CeldaElegida(int /*tipo*/, int /*capas*/) {}
+
+void FormularioCalculo::ConectaDiagrama(const char* nombre, std::function<void()> diagrama)
+{
+    auto* boton = qobject_cast<QPushButton*>(Control(QString::fromLatin1(nombre)));
+    connect(boton, &QPushButton::clicked, this, [boton, diagrama = std::move(diagrama)] {
+        if (BotonConFoco(boton)) plataforma::AtrapaErrorFatal(diagrama);
+    });
+}
 
 void FormularioCalculo::Muestra(const std::vector<std::pair<const char*, const std::string*>>& textos)
 {

@@ -12,6 +12,7 @@
 #include "screens/Formulario.h"
 #include "screens/ReglasCampo.h"
 
+#include <functional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -72,8 +73,8 @@ protected:
     };
     QGroupBox* CreaMarcoResultados(const char* nombre, const QString& titulo,
                                    const std::vector<std::vector<Resultado>>& columnas);
-    // The drawing surface with the verdict label LB_INFO on it, hidden.
-    QFrame* CreaDibujoConVeredicto(const char* nombre, const QString& textoVeredicto);
+    // The picture with the verdict label LB_INFO on it, hidden.
+    Lienzo* CreaDibujoConVeredicto(const char* nombre, Pantalla pantalla, const QString& textoVeredicto);
     // The column of buttons: CM_CALCULAR, set apart, then the diagram buttons.
     struct Boton {
         const char* nombre;
@@ -106,6 +107,10 @@ protected:
     virtual void MuestraCelda(int tipo, int capas) = 0;
     // What a click on a cell changes beyond its results.
     virtual void CeldaElegida(int tipo, int capas);
+    // The chart that a Calculate leaves on the picture, its last step.
+    virtual void GraficoDelCalculo() = 0;
+    // A diagram button: the procedure runs under the fatal-error trap, as every command does.
+    void ConectaDiagrama(const char* boton, std::function<void()> diagrama);
     // Writes each text to its result field.
     void Muestra(const std::vector<std::pair<const char*, const std::string*>>& textos);
     void MuestraTipo(const std::string& texto);

@@ -7,6 +7,8 @@
 
 #include <QKeySequence>
 #include <QList>
+#include "diagrams/Dibujante.h"
+
 #include <QMainWindow>
 #include <QPointer>
 #include <functional>
@@ -20,9 +22,6 @@ namespace texalon {
 
 class Formulario;
 class FormularioCalculo;
-
-// The four calculation screens, each known to the shell by its window name.
-enum class Pantalla { Flexion, FlexionT, Confina, Carac };
 
 class MdiPrincipal : public QMainWindow {
     Q_OBJECT

@@ -1,0 +1,261 @@
+// The diagrams as the user meets them on the screens: the chart that each Calculate leaves, the
+// diagram buttons, the strain diagram that follows the grid, the characteristics chart of each
+// option, the zoom with the mouse, and the counters cleared by the close.
+#include "comun/Pantallas.h"
+#include "comun/Usuario.h"
+#include "diagrams/qt/Lienzo.h"
+#include "platform/dobles/PlataformaDoble.h"
+#include "screens/FmCarac.h"
+#include "screens/FmConfina.h"
+#include "screens/FmFlexion.h"
+#include "screens/RejillaResultados.h"
+#include "state/General.h"
+
+#include <QLabel>
+#include <QLineEdit>
+#include <QRadioButton>
+#include <QtTest>
+
+using namespace texalon;
+
+class PruebaDiagramasPantallas : public prueba::PruebaDePantalla {
+    Q_OBJECT
+
+    QPointer<Formulario> pantalla_;
+
+    Formulario* EnPrueba() const override { return pantalla_; }
+
+    template <typename Pantalla, typename... Argumentos>
+    Pantalla& Abre(Argumentos... argumentos)
+    {
+        delete pantalla_;
+        Estado() = General{};
+        EstadoDibujo() = GeneralDibujo{};
+        ValoresIniciales(Estado());
+        Estado().MD = 250.0;
+        NuevosDobles(separador_);
+        auto* pantalla = new Pantalla(argumentos...);
+        pantalla_ = pantalla;
+        pantalla->show();
+        pantalla->activateWindow();
+        if (!QTest::qWaitForWindowActive(pantalla)) qWarning("la pantalla no se ha activado");
+        return *pantalla;
+    }
+
+    Lienzo* Dibujo(const char* nombre) { return qobject_cast<Lienzo*>(C(nombre)); }
+
+    // The captions of the texts on show in the picture.
+    QStringList Textos(const char* dibujo)
+    {
+        QStringList textos;
+        for (const ElementoPantalla& e : Dibujo(dibujo)->Elementos(ClasePantalla::Tit))
+            if (e.visible) textos << e.texto;
+        return textos;
+    }
+
+    RejillaResultados* Rejilla(const char* nombre) { return qobject_cast<RejillaResultados*>(C(nombre)); }
+
+    // A click of the mouse on a cell of a grid.
+    void ClicEnCelda(const char* rejilla, int fila, int columna)
+    {
+        RejillaResultados* r = Rejilla(rejilla);
+        const QRect celda = r->visualItemRect(r->item(fila, columna));
+        QTest::mouseClick(r->viewport(), Qt::LeftButton, {}, celda.center());
+    }
+
+private slots:
+    void cleanup()
+    {
+        CierraPantalla();
+        separador_ = ',';
+    }
+
+    void calcularFlexionDejaElDiagramaDeMomentosPorCapas_data()
+    {
+        QTest::addColumn<bool>("seccionT");
+        QTest::newRow("rectangular") << false;
+        QTest::newRow("T") << true;
+    }
+
+    void calcularFlexionDejaElDiagramaDeMomentosPorCapas()
+    {
+        QFETCH(bool, seccionT);
+        Abre<FmFlexion>(seccionT);
+        QCOMPARE(EstadoDibujo().NLINEA, Entero{0});
+        prueba::Pulsa(C("CM_CALCULAR"));
+        const GeneralDibujo& d = EstadoDibujo();
+        QVERIFY(d.F_CAPAS);
+        QVERIFY(!d.F_MOMENTOS && !d.F_PIVOTES && !d.F_SECCION);
+        QVERIFY(Textos("PIC_FLEXION").contains(QStringLiteral("DIAGRAMA DE MOMENTOS ULTIMOS")));
+        QVERIFY(Textos("PIC_FLEXION").contains(QStringLiteral("Nº capas")));
+        QVERIFY(d.NLINEA > 0);
+        QCOMPARE(static_cast<int>(Dibujo("PIC_FLEXION")->Elementos(ClasePantalla::Linea).size()), int(d.NLINEA));
+        QCOMPARE(static_cast<int>(Dibujo("PIC_FLEXION")->Elementos(ClasePantalla::Tit).size()), int(d.NTIT));
+        // The fit used the picture's own size.
+        QCOMPARE(d.ANCHOPIC, double(TamanoDe(Pantalla::Flexion).ancho));
+        QCOMPARE(d.ALTOPIC, double(TamanoDe(Pantalla::Flexion).alto));
+    }
+
+    void losBotonesDeFlexionDibujanSuDiagrama()
+    {
+        Abre<FmFlexion>(false);
+        prueba::Pulsa(C("CM_CALCULAR"));
+        prueba::Pulsa(C("CM_ARMADURA"));
+        QVERIFY(EstadoDibujo().F_MOMENTOS && !EstadoDibujo().F_CAPAS);
+        QVERIFY(Textos("PIC_FLEXION").contains(QStringLiteral("Ar (mm²)")));
+        prueba::Pulsa(C("CM_DEFORMACIONES"));
+        QVERIFY(EstadoDibujo().F_PIVOTES && !EstadoDibujo().F_MOMENTOS);
+        QVERIFY(Textos("PIC_FLEXION").contains(QStringLiteral("DIAGRAMA DE PIVOTES")));
+        prueba::Pulsa(C("CM_SECCION"));
+        QVERIFY(EstadoDibujo().F_SECCION && !EstadoDibujo().F_PIVOTES);
+        QVERIFY(Textos("PIC_FLEXION").contains(QStringLiteral("SECCION")));
+        prueba::Pulsa(C("CM_CAPAS"));
+        QVERIFY(EstadoDibujo().F_CAPAS && !EstadoDibujo().F_SECCION);
+    }
+
+    void laSeccionSeDibujaSinCalcular()
+    {
+        Abre<FmFlexion>(true);
+        prueba::Pulsa(C("CM_SECCION"));
+        QVERIFY(EstadoDibujo().F_SECCION);
+        // The T drawing has eight outline lines and the texts of its two extra dimensions.
+        QVERIFY(Textos("PIC_FLEXION").contains(QStringLiteral("0,20")));
+        QVERIFY(Textos("PIC_FLEXION").contains(QStringLiteral("0,125")));
+    }
+
+    void elDiagramaDeDeformacionesSigueALaCeldaElegida_data() { prueba::FilasSeparador(); }
+
+    void elDiagramaDeDeformacionesSigueALaCeldaElegida()
+    {
+        QFETCH(char, separador);
+        separador_ = separador;
+        Abre<FmFlexion>(false);
+        prueba::Pulsa(C("CM_CALCULAR"));
+        prueba::Pulsa(C("CM_DEFORMACIONES"));
+        // The strain of the top fibre of cell (1, 1), read from its result field.
+        const QString ec11 = Campo("TX_EPSC")->text() + QStringLiteral("‰");
+        QVERIFY(Textos("PIC_FLEXION").contains(ec11));
+        ClicEnCelda("FG_FLEXION", 5, 2);
+        const QString ec52 = Campo("TX_EPSC")->text() + QStringLiteral("‰");
+        QVERIFY(ec52 != ec11);
+        QVERIFY(Textos("PIC_FLEXION").contains(ec52));
+        QVERIFY(!Textos("PIC_FLEXION").contains(ec11));
+        // The diagram took the cell's type: EPSD now holds type 2's design strains.
+        QCOMPARE(Estado().E, Estado().CATALOGO(2, 2));
+    }
+
+    void unaCeldaSinResultadoDejaElDiagramaYApagaElBoton()
+    {
+        Abre<FmFlexion>(false);
+        prueba::Pulsa(C("CM_CALCULAR"));
+        prueba::Pulsa(C("CM_DEFORMACIONES"));
+        const QStringList antes = Textos("PIC_FLEXION");
+        // Type X gains nothing from the third layer on in the default project.
+        QCOMPARE(Rejilla("FG_FLEXION")->Texto(3, 3), QStringLiteral("---"));
+        ClicEnCelda("FG_FLEXION", 3, 3);
+        QVERIFY(!C("CM_DEFORMACIONES")->isEnabled());
+        QCOMPARE(Textos("PIC_FLEXION"), antes);
+        QVERIFY(doble_->mensajes.mostrados.empty());
+    }
+
+    void conLaSeccionALaVistaLaRejillaSoloCambiaElBoton()
+    {
+        Abre<FmFlexion>(false);
+        prueba::Pulsa(C("CM_CALCULAR"));
+        prueba::Pulsa(C("CM_SECCION"));
+        const QStringList seccion = Textos("PIC_FLEXION");
+        ClicEnCelda("FG_FLEXION", 2, 1);
+        QVERIFY(C("CM_DEFORMACIONES")->isEnabled());
+        QVERIFY(EstadoDibujo().F_SECCION);
+        QCOMPARE(Textos("PIC_FLEXION"), seccion);
+    }
+
+    void calcularConfinamientoDejaSuDiagramaYLosBotonesDibujan()
+    {
+        Abre<FmConfina>();
+        prueba::Pulsa(C("CM_CALCULAR"));
+        QVERIFY(Textos("PIC_CONFINA").contains(QStringLiteral("DIAGRAMA DE CONFINAMIENTO")));
+        QVERIFY(!EstadoDibujo().F_SECCION);
+        // Nine bars a type, and the legend's three swatches.
+        QCOMPARE(int(EstadoDibujo().NBARRA), 3 * 5 + 3);
+        prueba::Pulsa(C("CM_SECCION"));
+        QVERIFY(EstadoDibujo().F_SECCION);
+        QCOMPARE(int(EstadoDibujo().NSECCIR), 2);
+        QVERIFY(Textos("PIC_CONFINA").contains(QStringLiteral("SECCION")));
+        prueba::Pulsa(C("CM_CONFINA"));
+        QVERIFY(!EstadoDibujo().F_SECCION);
+        QVERIFY(Textos("PIC_CONFINA").contains(QStringLiteral("Incr. resistencia")));
+    }
+
+    void elVeredictoNoTapaLosClicsDelDibujo()
+    {
+        Abre<FmConfina>();
+        prueba::Pulsa(C("CM_CALCULAR"));
+        Lienzo* dibujo = Dibujo("PIC_CONFINA");
+        auto* info = qobject_cast<QLabel*>(C("LB_INFO"));
+        QVERIFY(info->testAttribute(Qt::WA_TransparentForMouseEvents));
+        QTest::mouseClick(dibujo->viewport(), Qt::LeftButton, {}, info->geometry().center());
+        QVERIFY(EstadoDibujo().F_ZOOM);
+        QTest::keyClick(dibujo, Qt::Key_Escape);
+        QVERIFY(!EstadoDibujo().F_ZOOM);
+    }
+
+    void elZoomConDosClicsYElClicDerechoQueReajusta()
+    {
+        Abre<FmConfina>();
+        prueba::Pulsa(C("CM_CALCULAR"));
+        Lienzo* dibujo = Dibujo("PIC_CONFINA");
+        const double letra = dibujo->Elementos(ClasePantalla::Tit).front().tamano;
+        QTest::mouseClick(dibujo->viewport(), Qt::LeftButton, {}, QPoint(100, 50));
+        QTest::mouseMove(dibujo->viewport(), QPoint(210, 103));
+        QVERIFY(dibujo->BandaVisible());
+        QCOMPARE(dibujo->Banda(), QRectF(100, 50, 110, 53));
+        QTest::mouseClick(dibujo->viewport(), Qt::LeftButton, {}, QPoint(210, 103));
+        // 440 / 110 and 212 / 53: the picture's size over the band's.
+        QCOMPARE(EstadoDibujo().ZOOM, 4.0);
+        QCOMPARE(dibujo->Elementos(ClasePantalla::Tit).front().tamano, letra * 4);
+        QTest::mouseClick(dibujo->viewport(), Qt::RightButton, {}, QPoint(5, 5));
+        QCOMPARE(dibujo->Elementos(ClasePantalla::Tit).front().tamano, letra);
+    }
+
+    void caracteristicasDibujaElTipoDeCadaOpcion()
+    {
+        Abre<FmCarac>();
+        QVERIFY(Textos("PIC_CARAC").contains(QStringLiteral("DIAGRAMA TENSION-DEFORMACION")));
+        // The name stands by the line of the type in hand alone.
+        QVERIFY(Textos("PIC_CARAC").contains(QStringLiteral("TEXALON L")));
+        QVERIFY(!Textos("PIC_CARAC").contains(QStringLiteral("TEXALON X")));
+        prueba::Pulsa(qobject_cast<QRadioButton*>(C("OP_TX")));
+        QVERIFY(Textos("PIC_CARAC").contains(QStringLiteral("TEXALON X")));
+        QVERIFY(!Textos("PIC_CARAC").contains(QStringLiteral("TEXALON L")));
+        // Its design points: one a number of layers.
+        QCOMPARE(int(EstadoDibujo().NPUNTO), int(Estado().MAXCAPAS));
+    }
+
+    void elClicDerechoEnCaracteristicasNuncaEsIsotropico()
+    {
+        Abre<FmCarac>();
+        EstadoDibujo().F_SECCION = true;
+        Lienzo* dibujo = Dibujo("PIC_CARAC");
+        const ElementoPantalla eje = dibujo->Elementos(ClasePantalla::Linea).front();
+        QTest::mouseClick(dibujo->viewport(), Qt::RightButton, {}, QPoint(5, 5));
+        const ElementoPantalla otraVez = dibujo->Elementos(ClasePantalla::Linea).front();
+        QCOMPARE(otraVez.x2, eje.x2);
+        QCOMPARE(otraVez.y2, eje.y2);
+    }
+
+    void alCerrarLosContadoresVuelvenACero()
+    {
+        Abre<FmFlexion>(false);
+        prueba::Pulsa(C("CM_CALCULAR"));
+        QVERIFY(EstadoDibujo().NLINEA > 0);
+        CierraPantalla();
+        const GeneralDibujo& d = EstadoDibujo();
+        QCOMPARE(d.NLINEA + d.NTIT + d.NBARRA + d.NPUNTO + d.NSECRECT + d.NSECCIR, 0);
+        // The picture went with its screen: the diagrams have nowhere to draw.
+        QCOMPARE(DibujanteDe(Pantalla::Flexion), nullptr);
+    }
+};
+
+QTEST_MAIN(PruebaDiagramasPantallas)
+#include "test_diagramas_pantallas.moc"
