@@ -1,11 +1,17 @@
 #include "calculo/Calculo.h"
 
+#include "calculo/Diagrama.h"
 #include "calculo/Proyecto.h"
 #include "calculo/SalidaJson.h"
 #include "calculo/SalidaTexto.h"
+#include "calculo/Texto.h"
 
+#include <charconv>
+#include <filesystem>
+#include <optional>
 #include <ostream>
 #include <string_view>
+#include <system_error>
 
 namespace texalon::calculo {
 
@@ -17,6 +23,10 @@ constexpr std::string_view kPrograma = "texalon-calculo";
 struct Orden {
     bool json = false;
     bool ayuda = false;
+    std::optional<Diagrama> diagrama;
+    int tipo = 1;
+    int capas = 1;
+    std::optional<std::string> carpetaSvg;
     std::vector<std::string> ficheros;
     std::string error;  // the usage error, if any
 };
@@ -24,13 +34,57 @@ struct Orden {
 // A lone "-" is a name: no option is that short.
 bool EsOpcion(const std::string& argumento) { return argumento.size() > 1 && argumento.front() == '-'; }
 
-// Options and names may come in any order; after "--" everything is a name, so that a file
-// whose name starts with '-' can be given too.
+bool LlevaValor(const std::string& opcion)
+{
+    return opcion == "--diagrama" || opcion == "--tipo" || opcion == "--capas" || opcion == "--svg";
+}
+
+// A whole number in plain decimal digits from 1 to `maximo`, the whole text of it.
+std::optional<int> NumeroHasta(const std::string& texto, int maximo)
+{
+    int numero = 0;
+    const char* fin = texto.data() + texto.size();
+    const auto leido = std::from_chars(texto.data(), fin, numero);
+    if (texto.empty() || leido.ec != std::errc() || leido.ptr != fin || numero < 1 || numero > maximo)
+        return std::nullopt;
+    return numero;
+}
+
+std::string ErrorNumero(const std::string& opcion, const std::string& valor, int maximo)
+{
+    return "el valor «" + valor + "» de " + opcion + " no es un número entero de 1 a " + TextoEntero(maximo) + ".";
+}
+
+// Takes the value of an option that carries one; the answer is the usage error, if any.
+std::string TomaValor(Orden& orden, const std::string& opcion, const std::string& valor)
+{
+    if (opcion == "--diagrama") {
+        orden.diagrama = DiagramaDeNombre(valor);
+        if (!orden.diagrama)
+            return "diagrama «" + valor + "» no reconocido: los diagramas son " + NombresDiagramas() + ".";
+    } else if (opcion == "--tipo") {
+        const std::optional<int> tipo = NumeroHasta(valor, kTipoMaximo);
+        if (!tipo) return ErrorNumero(opcion, valor, kTipoMaximo);
+        orden.tipo = *tipo;
+    } else if (opcion == "--capas") {
+        const std::optional<int> capas = NumeroHasta(valor, kCapasMaximo);
+        if (!capas) return ErrorNumero(opcion, valor, kCapasMaximo);
+        orden.capas = *capas;
+    } else {
+        if (valor.empty()) return "falta el valor de la opción «" + opcion + "».";
+        orden.carpetaSvg = valor;
+    }
+    return {};
+}
+
+// Options and names may come in any order; an option's value is the argument that follows it.
+// After "--" everything is a name, so that a file whose name starts with '-' can be given too.
 Orden Interpreta(const std::vector<std::string>& argumentos)
 {
     Orden orden;
     bool soloNombres = false;
-    for (const std::string& argumento : argumentos) {
+    for (std::size_t i = 0; i < argumentos.size(); ++i) {
+        const std::string& argumento = argumentos[i];
         if (soloNombres || !EsOpcion(argumento)) {
             orden.ficheros.push_back(argumento);
         } else if (argumento == "--") {
@@ -39,12 +93,20 @@ Orden Interpreta(const std::vector<std::string>& argumentos)
             orden.json = true;
         } else if (argumento == "--help" || argumento == "-h") {
             orden.ayuda = true;
+        } else if (LlevaValor(argumento)) {
+            orden.error = i + 1 < argumentos.size() ? TomaValor(orden, argumento, argumentos[++i])
+                                                    : "falta el valor de la opción «" + argumento + "».";
+            if (!orden.error.empty()) return orden;
         } else {
             orden.error = "opción no reconocida «" + argumento + "».";
             return orden;
         }
     }
-    if (!orden.ayuda && orden.ficheros.empty()) orden.error = "falta el nombre de algún fichero.";
+    if (orden.ayuda) return orden;
+    if (orden.ficheros.empty())
+        orden.error = "falta el nombre de algún fichero.";
+    else if (orden.carpetaSvg && !orden.diagrama)
+        orden.error = "la opción «--svg» necesita «--diagrama NOMBRE».";
     return orden;
 }
 
@@ -53,15 +115,44 @@ void EscribeErrorDeUso(const std::string& error, std::ostream& errores)
     errores << kPrograma << ": " << error << '\n' << "Pruebe «" << kPrograma << " --help» para más información.\n";
 }
 
-// The results of one file, or its messages; the answer says whether it succeeded.
-bool ProcesaFichero(const std::string& fichero, const Orden& orden, char separador, bool& primerBloque,
-                    std::ostream& salida, std::ostream& errores)
+// CARPETA/<the file's name without its extension>-<the diagram's name>.svg
+std::string FicheroSvg(const std::string& carpeta, const std::string& fichero, Diagrama diagrama)
 {
-    const CalculoFichero calculo = CalculaFichero(fichero);
+    const std::string nombre =
+        std::filesystem::path(fichero).stem().string() + "-" + std::string(NombreDiagrama(diagrama)) + ".svg";
+    return (std::filesystem::path(carpeta) / nombre).string();
+}
+
+// The folder is made when it is missing; a file that cannot be written is a failure of the file.
+void GuardaSvg(CalculoFichero& calculo, ListaDiagrama& lista, const Orden& orden, const EscritorSvg& escritorSvg)
+{
+    const std::string destino = FicheroSvg(*orden.carpetaSvg, calculo.fichero, *orden.diagrama);
+    std::error_code sinExcepcion;
+    std::filesystem::create_directories(*orden.carpetaSvg, sinExcepcion);
+    if (!escritorSvg || !escritorSvg(lista.d, lista.pantalla, lista.isotropico, destino))
+        calculo.errores.push_back("no se ha podido escribir el diagrama en «" + destino + "».");
+}
+
+// The diagram of a calculated file, written as SVG when asked; none for a file that failed.
+std::optional<ListaDiagrama> DiagramaDelFichero(CalculoFichero& calculo, const Orden& orden, char separador,
+                                                const EscritorSvg& escritorSvg)
+{
+    if (!orden.diagrama || !calculo.Correcto()) return std::nullopt;
+    std::optional<ListaDiagrama> lista = DibujaDiagrama(calculo, {*orden.diagrama, orden.tipo, orden.capas}, separador);
+    if (lista && orden.carpetaSvg) GuardaSvg(calculo, *lista, orden, escritorSvg);
+    return lista;
+}
+
+// The results of one file, or its messages; the answer says whether it succeeded.
+bool ProcesaFichero(const std::string& fichero, const Orden& orden, char separador, const EscritorSvg& escritorSvg,
+                    bool& primerBloque, std::ostream& salida, std::ostream& errores)
+{
+    CalculoFichero calculo = CalculaFichero(fichero);
+    const std::optional<ListaDiagrama> lista = DiagramaDelFichero(calculo, orden, separador, escritorSvg);
     for (const std::string& mensaje : calculo.errores)
         errores << fichero << ": " << mensaje << '\n';
     if (orden.json) {
-        salida << ObjetoJson(calculo) << '\n';
+        salida << ObjetoJson(calculo, lista ? &*lista : nullptr) << '\n';
     } else if (calculo.Correcto()) {
         // A blank line parts the blocks of two files.
         if (!primerBloque) salida << '\n';
@@ -74,13 +165,14 @@ bool ProcesaFichero(const std::string& fichero, const Orden& orden, char separad
     return calculo.Correcto();
 }
 
-int ProcesaFicheros(const Orden& orden, char separador, std::ostream& salida, std::ostream& errores)
+int ProcesaFicheros(const Orden& orden, char separador, const EscritorSvg& escritorSvg, std::ostream& salida,
+                    std::ostream& errores)
 {
     bool todos = true;
     bool primerBloque = true;
     // A failure stops nothing: the next file goes on.
     for (const std::string& fichero : orden.ficheros)
-        todos = ProcesaFichero(fichero, orden, separador, primerBloque, salida, errores) && todos;
+        todos = ProcesaFichero(fichero, orden, separador, escritorSvg, primerBloque, salida, errores) && todos;
     return todos ? kSalidaCorrecta : kSalidaConFallos;
 }
 
@@ -89,6 +181,8 @@ int ProcesaFicheros(const Orden& orden, char separador, std::ostream& salida, st
 std::string TextoAyuda()
 {
     return "Uso: texalon-calculo [--json] FICHERO...\n"
+           "  o: texalon-calculo [--json] --diagrama NOMBRE [--tipo N] [--capas N]\n"
+           "                     [--svg CARPETA] FICHERO...\n"
            "\n"
            "Calcula cada proyecto TEXALON guardado como lo hace el botón Calcular de su\n"
            "pantalla y escribe sus resultados en la salida estándar. La extensión del nombre\n"
@@ -103,6 +197,38 @@ std::string TextoAyuda()
            "              los números con 17 cifras significativas y punto decimal, null\n"
            "              si no es finito. Si el fichero falla, el objeto lleva «error» en\n"
            "              lugar de los resultados.\n"
+           "  --diagrama NOMBRE\n"
+           "              tras el cálculo dibuja el diagrama NOMBRE del proyecto, el mismo que\n"
+           "              dibujaría su pantalla (el de la sección en T para una sección en T):\n"
+           "                tension        tensión-deformación de los refuerzos, con los\n"
+           "                               puntos de cálculo del tipo de --tipo; en\n"
+           "                               cualquier proyecto.\n"
+           "                confinamiento  incremento de resistencia por número de capas;\n"
+           "                               solo en confinamiento.\n"
+           "                area           momento último frente al área de refuerzo;\n"
+           "                               solo en flexión.\n"
+           "                capas          momento último frente al número de capas; solo\n"
+           "                               en flexión.\n"
+           "                pivotes        deformaciones y pivotes de la celda de --tipo y\n"
+           "                               --capas; solo en flexión.\n"
+           "                seccion        la sección acotada; en cualquier proyecto.\n"
+           "              Con --json el objeto lleva además «lista», la lista de dibujo que\n"
+           "              deja el diagrama: «diagrama» (el nombre de su procedimiento, como\n"
+           "              DiagramaMomentoCapasT), «NLISTA», «LISTA» (una lista de los 10\n"
+           "              campos de cada elemento) y «TEXTOS» (el texto de cada elemento).\n"
+           "              Los números de «LISTA» van como los demás del JSON; los de\n"
+           "              «TEXTOS» llevan el separador decimal del sistema, como en la\n"
+           "              pantalla.\n"
+           "  --tipo N    el tipo de refuerzo de tension y de pivotes, de 1 a 3 (1 TEXALON L,\n"
+           "              2 TEXALON H, 3 TEXALON X); 1 si no se da.\n"
+           "  --capas N   el número de capas de pivotes, de 1 a 5; 1 si no se da. El\n"
+           "              diagrama lee los textos que la pantalla muestra para esa celda.\n"
+           "  --svg CARPETA\n"
+           "              escribe el diagrama de cada fichero en\n"
+           "              CARPETA/<nombre del fichero sin extensión>-NOMBRE.svg, tal como se\n"
+           "              ve en la pantalla: el mismo ajuste al tamaño del dibujo, las formas\n"
+           "              rellenas y los textos medidos como en ella. Crea la carpeta si no\n"
+           "              existe. Necesita --diagrama; no necesita pantalla gráfica.\n"
            "  -h, --help  muestra esta ayuda y termina.\n"
            "  --          lo que sigue son nombres de fichero, aunque empiecen por «-».\n"
            "\n"
@@ -110,15 +236,20 @@ std::string TextoAyuda()
            "refuerzo por columna y un número de capas por fila, en los formatos de la\n"
            "pantalla y con el separador decimal del sistema, el veredicto y los valores de\n"
            "la sección. Los mensajes de error van a la salida de errores y el cálculo sigue\n"
-           "con el fichero siguiente. El programa no escribe ningún fichero.\n"
+           "con el fichero siguiente. También falla un fichero cuyo cálculo se detiene por\n"
+           "una predeformación superior al 2 por mil, cuyo proyecto no tiene el diagrama\n"
+           "pedido (area en un pilar, por ejemplo), cuya celda de pivotes no tiene\n"
+           "resultado («---») o cuyo SVG no se puede escribir. Solo --svg escribe ficheros.\n"
            "\n"
            "Estado de salida:\n"
-           "  0  se han calculado todos los ficheros.\n"
-           "  1  algún fichero no se ha podido leer o calcular.\n"
-           "  2  error de uso: ningún fichero u opción no reconocida.\n";
+           "  0  se han calculado todos los ficheros, y dibujado sus diagramas.\n"
+           "  1  algún fichero no se ha podido leer, calcular, dibujar o escribir.\n"
+           "  2  error de uso: ningún fichero, una opción no reconocida o sin su valor,\n"
+           "     un valor no válido, o --svg sin --diagrama.\n";
 }
 
-int Ejecuta(const std::vector<std::string>& argumentos, char separador, std::ostream& salida, std::ostream& errores)
+int Ejecuta(const std::vector<std::string>& argumentos, char separador, std::ostream& salida, std::ostream& errores,
+            const EscritorSvg& escritorSvg)
 {
     const Orden orden = Interpreta(argumentos);
     if (!orden.error.empty()) {
@@ -129,7 +260,7 @@ int Ejecuta(const std::vector<std::string>& argumentos, char separador, std::ost
         salida << TextoAyuda();
         return kSalidaCorrecta;
     }
-    return ProcesaFicheros(orden, separador, salida, errores);
+    return ProcesaFicheros(orden, separador, escritorSvg, salida, errores);
 }
 
 char SeparadorDecimal(const char* separadorDelSistema)

@@ -3,6 +3,10 @@
 // apart from the process around it, so that the tests call it just as main does.
 #pragma once
 
+#include "diagrams/Dibujante.h"
+#include "state/General.h"
+
+#include <functional>
 #include <iosfwd>
 #include <string>
 #include <vector>
@@ -11,16 +15,24 @@ namespace texalon::calculo {
 
 // Exit status of the command.
 constexpr int kSalidaCorrecta = 0;  // every file calculated, or the help shown
-constexpr int kSalidaConFallos = 1;  // some file could not be read or calculated
-constexpr int kSalidaErrorDeUso = 2;  // no file, or an option the command does not know
+constexpr int kSalidaConFallos = 1;  // some file could not be read, calculated, drawn or written
+constexpr int kSalidaErrorDeUso = 2;  // no file, or an option the command does not know or a bad value
+
+// Writes a display list as the picture of `pantalla` shows it to the SVG file `fichero`, and
+// says whether it could. The picture belongs to the program around the command, which brings
+// the windowing toolkit that measures the texts.
+using EscritorSvg =
+    std::function<bool(GeneralDibujo& d, Pantalla pantalla, Entero isotropico, const std::string& fichero)>;
 
 // The usage text of --help.
 std::string TextoAyuda();
 
 // Runs the command on its arguments, the program name left out, and returns the exit status.
 // Results go to `salida` and messages to `errores`; `separador` is the decimal separator of
-// the text results (the JSON numbers always carry the period). Writes no file.
-int Ejecuta(const std::vector<std::string>& argumentos, char separador, std::ostream& salida, std::ostream& errores);
+// the text results and of the diagrams' texts (the JSON numbers always carry the period). The
+// diagrams of --svg go through `escritorSvg`; without one, they cannot be written.
+int Ejecuta(const std::vector<std::string>& argumentos, char separador, std::ostream& salida, std::ostream& errores,
+            const EscritorSvg& escritorSvg = {});
 
 // The decimal separator of the results from the machine's one: ',' for a comma and '.' for
 // anything else, a missing one included.

@@ -12,14 +12,6 @@ namespace texalon::calculo {
 
 namespace {
 
-// The screens have no trap around Calculate, so the program would end with this message; the
-// batch command tells it and goes on with the next file.
-std::string MensajeErrorCalculo(int numero)
-{
-    return "Se ha producido el error '" + TextoEntero(numero) +
-           "' en tiempo de ejecución: " + ErrorEjecucion::DescripcionDe(numero);
-}
-
 // Reads the file as Open does; a refused or failed file leaves its messages and the one of Open.
 bool Lee(CalculoFichero& calculo)
 {
@@ -57,9 +49,9 @@ void CalculaBajoTrampa(CalculoFichero& calculo)
     try {
         Calcula(calculo);
     } catch (const ErrorEjecucion& error) {
-        calculo.errores.push_back(MensajeErrorCalculo(error.Numero()));
+        calculo.errores.push_back(MensajeErrorEjecucion(error.Numero()));
     } catch (const std::bad_alloc&) {
-        calculo.errores.push_back(MensajeErrorCalculo(ErrorEjecucion::kMemoriaInsuficiente));
+        calculo.errores.push_back(MensajeErrorEjecucion(ErrorEjecucion::kMemoriaInsuficiente));
     }
 }
 
@@ -77,6 +69,14 @@ CalculoFichero CalculaFichero(const std::string& fichero)
     ValoresIniciales(calculo.g);
     if (Lee(calculo)) CalculaBajoTrampa(calculo);
     return calculo;
+}
+
+// The screens have no trap around Calculate, so the program would end with this message; the
+// batch command tells it and goes on with the next file.
+std::string MensajeErrorEjecucion(int numero)
+{
+    return "Se ha producido el error '" + TextoEntero(numero) +
+           "' en tiempo de ejecución: " + ErrorEjecucion::DescripcionDe(numero);
 }
 
 std::optional<std::string_view> NombreTipo(const CalculoFichero& calculo)

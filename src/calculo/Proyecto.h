@@ -38,4 +38,8 @@ CalculoFichero CalculaFichero(const std::string& fichero);
 // "rectangular", "T" or "confinamiento"; none while the file has not told its kind.
 std::optional<std::string_view> NombreTipo(const CalculoFichero& calculo);
 
+// The message of a run-time error inside a calculation or a drawing, as the program would end
+// with it: "Se ha producido el error '11' en tiempo de ejecución: División por cero".
+std::string MensajeErrorEjecucion(int numero);
+
 }  // namespace texalon::calculo

@@ -195,6 +195,27 @@ void ResultadosConfinamiento(Objeto& objeto, const General& g)
                    {"RESU", &g.RESU}});
 }
 
+// The display list, elements 1 to NLISTA: each its 10 fields, and its text.
+std::string ObjetoLista(const ListaDiagrama& lista)
+{
+    const GeneralDibujo& d = lista.d;
+    std::string elementos = "[";
+    std::string textos = "[";
+    for (int i = 1; i <= d.NLISTA; ++i) {
+        elementos += i > 1 ? ",[" : "[";
+        for (int campo = 1; campo <= GeneralDibujo::kCampos; ++campo)
+            elementos += (campo > 1 ? "," : "") + Numero(d.LISTA(i, campo));
+        elementos += ']';
+        textos += (i > 1 ? "," : "") + CadenaJson(d.TEXTOS(i));
+    }
+    Objeto objeto;
+    objeto.Texto("diagrama", lista.procedimiento);
+    objeto.Miembro("NLISTA", TextoEntero(d.NLISTA));
+    objeto.Miembro("LISTA", elementos + ']');
+    objeto.Miembro("TEXTOS", textos + ']');
+    return objeto.Cierra();
+}
+
 }  // namespace
 
 std::string CadenaJson(std::string_view texto)
@@ -219,7 +240,7 @@ std::string CadenaJson(std::string_view texto)
     return cadena + '"';
 }
 
-std::string ObjetoJson(const CalculoFichero& calculo)
+std::string ObjetoJson(const CalculoFichero& calculo, const ListaDiagrama* lista)
 {
     Objeto objeto;
     objeto.Texto("fichero", calculo.fichero);
@@ -236,6 +257,7 @@ std::string ObjetoJson(const CalculoFichero& calculo)
         ResultadosConfinamiento(objeto, calculo.g);
     }
     objeto.Texto("veredicto", TextoVeredicto(calculo.veredicto));
+    if (lista != nullptr) objeto.Miembro("lista", ObjetoLista(*lista));
     return objeto.Cierra();
 }
 

@@ -1,8 +1,15 @@
 // texalon-calculo: calculates TEXALON project files from the command line.
 #include "calculo/Calculo.h"
+#include "diagrams/qt/Lienzo.h"
+
+#include <QApplication>
+#include <QMessageLogContext>
+#include <QString>
+#include <QtGlobal>
 
 #include <clocale>
 #include <iostream>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -19,11 +26,50 @@ char SeparadorDelSistema()
     return separador;
 }
 
+// The toolkit's own notes (a runtime folder it makes up, a font it stands in) are no messages
+// of the command: only its critical and fatal ones reach the error output.
+void MensajeDelToolkit(QtMsgType tipo, const QMessageLogContext& contexto, const QString& texto)
+{
+    if (tipo == QtDebugMsg || tipo == QtInfoMsg || tipo == QtWarningMsg) return;
+    std::cerr << qPrintable(qFormatLogMessage(tipo, contexto, texto)) << std::endl;
+}
+
+// The windowing toolkit, started only for the first SVG file: it measures the texts as the
+// screen does. The files need no display, and so the offscreen platform serves whenever none
+// is asked for.
+class Aplicacion {
+public:
+    void Arranca()
+    {
+        if (aplicacion_) return;
+        if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+        qInstallMessageHandler(MensajeDelToolkit);
+        aplicacion_ = std::make_unique<QApplication>(argc_, argv_);
+        // The toolkit takes the machine's locale on starting; numbers keep to the C locale.
+        std::setlocale(LC_ALL, "C");
+    }
+
+private:
+    // The toolkit sees the program's name alone, so that no file name is taken for its options.
+    char nombre_[16] = "texalon-calculo";
+    char* argv_[2] = {nombre_, nullptr};
+    int argc_ = 1;
+    std::unique_ptr<QApplication> aplicacion_;
+};
+
 }  // namespace
 
 int main(int argc, char* argv[])
 {
     // argv[0] is the program's own name, when the system gives one.
     const std::vector<std::string> argumentos(argc > 0 ? argv + 1 : argv, argv + argc);
-    return texalon::calculo::Ejecuta(argumentos, SeparadorDelSistema(), std::cout, std::cerr);
+    const char separador = SeparadorDelSistema();
+    Aplicacion aplicacion;
+    const texalon::calculo::EscritorSvg escritorSvg = [&aplicacion](
+                                                          texalon::GeneralDibujo& d, texalon::Pantalla pantalla,
+                                                          texalon::Entero isotropico, const std::string& fichero) {
+        aplicacion.Arranca();
+        return texalon::EscribeSvg(d, pantalla, isotropico, QString::fromStdString(fichero));
+    };
+    return texalon::calculo::Ejecuta(argumentos, separador, std::cout, std::cerr, escritorSvg);
 }

@@ -2,8 +2,10 @@
 # that its output holds a text.
 #   -DPROGRAMA=<path of texalon-calculo>  -DESTADO=<expected status>
 #   -DFICHERO=<one argument, may be empty>  -DTEXTO=<text expected in the output, may be empty>
+#   -DOPCIONES=<options ahead of the file, parted by blanks, may be empty>
+separate_arguments(argumentos UNIX_COMMAND "${OPCIONES}")
 if(FICHERO)
-  set(argumentos "${FICHERO}")
+  list(APPEND argumentos "${FICHERO}")
 endif()
 execute_process(
   COMMAND "${PROGRAMA}" ${argumentos}

@@ -58,12 +58,13 @@ std::string DirectorioTemporal::Escribe(const std::string& nombre, std::string_v
 
 std::string DirectorioTemporal::Fichero(const std::string& nombre) const { return (ruta_ / nombre).string(); }
 
-Ejecucion EjecutaCalculo(const std::vector<std::string>& argumentos, char separador)
+Ejecucion EjecutaCalculo(const std::vector<std::string>& argumentos, char separador,
+                         const calculo::EscritorSvg& escritorSvg)
 {
     std::ostringstream salida;
     std::ostringstream errores;
     Ejecucion ejecucion;
-    ejecucion.estado = calculo::Ejecuta(argumentos, separador, salida, errores);
+    ejecucion.estado = calculo::Ejecuta(argumentos, separador, salida, errores, escritorSvg);
     ejecucion.salida = salida.str();
     ejecucion.errores = errores.str();
     return ejecucion;

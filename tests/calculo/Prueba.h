@@ -2,6 +2,8 @@
 // files, a run of the command through its library, and the comparison with the expected outputs.
 #pragma once
 
+#include "calculo/Calculo.h"
+
 #include <gtest/gtest.h>
 
 #include <filesystem>
@@ -43,8 +45,10 @@ struct Ejecucion {
     std::string errores;
 };
 
-// Runs the command through its library, as main does, with the given decimal separator.
-Ejecucion EjecutaCalculo(const std::vector<std::string>& argumentos, char separador = ',');
+// Runs the command through its library, as main does, with the given decimal separator and
+// the given writer of SVG files.
+Ejecucion EjecutaCalculo(const std::vector<std::string>& argumentos, char separador = ',',
+                         const calculo::EscritorSvg& escritorSvg = {});
 
 // The text with every occurrence of `buscado` replaced.
 std::string Sustituye(std::string texto, std::string_view buscado, std::string_view nuevo);

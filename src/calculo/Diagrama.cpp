@@ -1,0 +1,185 @@
+#include "calculo/Diagrama.h"
+
+#include "calculo/Texto.h"
+
+#include "diagrams/Grafico.h"
+#include "engine/Calculos.h"
+#include "engine/Caracteristicas.h"
+#include "state/ErrorEjecucion.h"
+
+#include <array>
+#include <new>
+#include <utility>
+#include <vector>
+
+namespace texalon::calculo {
+
+namespace {
+
+constexpr std::array<Diagrama, 6> kDiagramas = {Diagrama::Tension, Diagrama::Confinamiento, Diagrama::Area,
+                                                Diagrama::Capas,   Diagrama::Pivotes,       Diagrama::Seccion};
+
+// "a, b y c".
+std::string ListaEspanola(const std::vector<std::string_view>& nombres)
+{
+    std::string texto;
+    for (std::size_t i = 0; i < nombres.size(); ++i) {
+        if (i > 0) texto += i + 1 == nombres.size() ? " y " : ", ";
+        texto += nombres[i];
+    }
+    return texto;
+}
+
+// The stress-strain chart and the section drawing belong to every project; the bars to a
+// confinement project; the moment and strain charts to a flexure project.
+bool TieneDiagrama(ClaseFichero clase, Diagrama diagrama)
+{
+    switch (diagrama) {
+    case Diagrama::Tension:
+    case Diagrama::Seccion: return true;
+    case Diagrama::Confinamiento: return clase == ClaseFichero::Confinamiento;
+    case Diagrama::Area:
+    case Diagrama::Capas:
+    case Diagrama::Pivotes: break;
+    }
+    return clase == ClaseFichero::Flexion;
+}
+
+std::string MensajeSinDiagrama(ClaseFichero clase, Diagrama diagrama)
+{
+    std::vector<std::string_view> suyos;
+    for (const Diagrama otro : kDiagramas)
+        if (TieneDiagrama(clase, otro)) suyos.push_back(NombreDiagrama(otro));
+    const std::string proyecto = clase == ClaseFichero::Confinamiento ? "confinamiento" : "flexión";
+    return "un proyecto de " + proyecto + " no tiene el diagrama «" + std::string(NombreDiagrama(diagrama)) +
+           "»: sus diagramas son " + ListaEspanola(suyos) + ".";
+}
+
+std::string MensajeCeldaSinResultado(const General& g, const PeticionDiagrama& peticion)
+{
+    return "la celda de " + g.TIPOS(peticion.tipo) + " y " + TextoEntero(peticion.capas) +
+           (peticion.capas == 1 ? " capa" : " capas") + " no tiene resultado («---»): no hay diagrama de pivotes.";
+}
+
+using Procedimiento = void (*)(const General&, GeneralDibujo&, char);
+
+// A flexure diagram with its two procedures: the T section has its twin, named with a "T" at
+// the end, which draws on the T screen.
+struct Gemelos {
+    std::string_view nombre;
+    Procedimiento rectangular;
+    Procedimiento t;
+};
+
+Gemelos GemelosDe(Diagrama diagrama)
+{
+    if (diagrama == Diagrama::Area) return {"DiagramaMomentoArea", DiagramaMomentoArea, DiagramaMomentoAreaT};
+    if (diagrama == Diagrama::Capas) return {"DiagramaMomentoCapas", DiagramaMomentoCapas, DiagramaMomentoCapasT};
+    return {"DibujaSeccion", DibujaSeccion, DibujaSeccionT};
+}
+
+// The section drawings keep the section's proportions; the charts take a scale in each direction.
+constexpr Entero kIsotropico = 1;
+constexpr Entero kAnisotropico = 0;
+
+void Describe(ListaDiagrama& lista, std::string procedimiento, Pantalla pantalla, Entero isotropico)
+{
+    lista.procedimiento = std::move(procedimiento);
+    lista.pantalla = pantalla;
+    lista.isotropico = isotropico;
+}
+
+void DibujaFlexion(CalculoFichero& calculo, const PeticionDiagrama& peticion, char separador, ListaDiagrama& lista)
+{
+    General& g = calculo.g;
+    const bool esT = calculo.seccion == kSeccionT;
+    const Pantalla pantalla = esT ? Pantalla::FlexionT : Pantalla::Flexion;
+    const std::string sufijo = esT ? "T" : "";
+    if (peticion.diagrama == Diagrama::Pivotes) {
+        // The cell's results as the screen's fields show them, which the strain plane reads.
+        const ResultadosCeldaFlexion celda = ResultadosFlexion(g, peticion.tipo, peticion.capas, separador);
+        (esT ? DiagramaPivotesT : DiagramaPivotes)(g, lista.d, celda, separador);
+        Describe(lista, "DiagramaPivotes" + sufijo, pantalla, kAnisotropico);
+        return;
+    }
+    const Gemelos gemelos = GemelosDe(peticion.diagrama);
+    (esT ? gemelos.t : gemelos.rectangular)(g, lista.d, separador);
+    const Entero isotropico = peticion.diagrama == Diagrama::Seccion ? kIsotropico : kAnisotropico;
+    Describe(lista, std::string(gemelos.nombre) + sufijo, pantalla, isotropico);
+}
+
+// Runs the procedure of the diagram for the file's kind of project.
+void Dibuja(CalculoFichero& calculo, const PeticionDiagrama& peticion, char separador, ListaDiagrama& lista)
+{
+    General& g = calculo.g;
+    if (peticion.diagrama == Diagrama::Tension) {
+        // As the characteristics screen does before it draws: EPSD of the type in hand.
+        CargaCaracteristicas(g, peticion.tipo);
+        DiagramaTension(g, lista.d, static_cast<Entero>(peticion.tipo), separador);
+        Describe(lista, "DiagramaTension", Pantalla::Carac, kAnisotropico);
+    } else if (calculo.clase == ClaseFichero::Flexion) {
+        DibujaFlexion(calculo, peticion, separador, lista);
+    } else if (peticion.diagrama == Diagrama::Confinamiento) {
+        DiagramaConfina(g, lista.d, separador);
+        Describe(lista, "DiagramaConfina", Pantalla::Confina, kAnisotropico);
+    } else {
+        DibujaSeccionConfina(g, lista.d, separador);
+        Describe(lista, "DibujaSeccionConfina", Pantalla::Confina, kIsotropico);
+    }
+}
+
+}  // namespace
+
+std::string_view NombreDiagrama(Diagrama diagrama)
+{
+    switch (diagrama) {
+    case Diagrama::Tension: return "tension";
+    case Diagrama::Confinamiento: return "confinamiento";
+    case Diagrama::Area: return "area";
+    case Diagrama::Capas: return "capas";
+    case Diagrama::Pivotes: return "pivotes";
+    case Diagrama::Seccion: break;
+    }
+    return "seccion";
+}
+
+std::optional<Diagrama> DiagramaDeNombre(std::string_view nombre)
+{
+    for (const Diagrama diagrama : kDiagramas)
+        if (NombreDiagrama(diagrama) == nombre) return diagrama;
+    return std::nullopt;
+}
+
+std::string NombresDiagramas()
+{
+    std::vector<std::string_view> nombres;
+    for (const Diagrama diagrama : kDiagramas)
+        nombres.push_back(NombreDiagrama(diagrama));
+    return ListaEspanola(nombres);
+}
+
+std::optional<ListaDiagrama> DibujaDiagrama(CalculoFichero& calculo, const PeticionDiagrama& peticion, char separador)
+{
+    if (!TieneDiagrama(calculo.clase, peticion.diagrama)) {
+        calculo.errores.push_back(MensajeSinDiagrama(calculo.clase, peticion.diagrama));
+        return std::nullopt;
+    }
+    // The screen offers the strain diagram only for a cell with a value.
+    if (peticion.diagrama == Diagrama::Pivotes && calculo.g.MU(peticion.tipo, peticion.capas) == kSinMejora) {
+        calculo.errores.push_back(MensajeCeldaSinResultado(calculo.g, peticion));
+        return std::nullopt;
+    }
+    ListaDiagrama lista;
+    try {
+        Dibuja(calculo, peticion, separador, lista);
+    } catch (const ErrorEjecucion& error) {
+        calculo.errores.push_back(MensajeErrorEjecucion(error.Numero()));
+        return std::nullopt;
+    } catch (const std::bad_alloc&) {
+        calculo.errores.push_back(MensajeErrorEjecucion(ErrorEjecucion::kMemoriaInsuficiente));
+        return std::nullopt;
+    }
+    return lista;
+}
+
+}  // namespace texalon::calculo

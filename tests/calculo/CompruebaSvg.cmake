@@ -1,0 +1,32 @@
+# Runs "texalon-calculo --diagrama NOMBRE --svg CARPETA FICHERO" as a user does and checks that
+# it ends well, says nothing on the error output (the toolkit's notes are no messages of the
+# command) and leaves CARPETA/<name of the file without its extension>-NOMBRE.svg, an SVG
+# picture that holds a text of the diagram.
+#   -DPROGRAMA=<path of texalon-calculo>  -DNOMBRE=<diagram>  -DCARPETA=<folder, made anew>
+#   -DFICHERO=<project file>  -DTEXTO=<text expected in the picture>
+#   -DOPCIONES=<more options, parted by blanks, may be empty>
+file(REMOVE_RECURSE "${CARPETA}")
+separate_arguments(opciones UNIX_COMMAND "${OPCIONES}")
+execute_process(
+  COMMAND "${PROGRAMA}" --diagrama "${NOMBRE}" ${opciones} --svg "${CARPETA}" "${FICHERO}"
+  RESULT_VARIABLE estado
+  OUTPUT_VARIABLE salida
+  ERROR_VARIABLE errores)
+if(NOT estado STREQUAL "0")
+  message(FATAL_ERROR "texalon-calculo terminó con ${estado} y se esperaba 0\n${salida}\n${errores}")
+endif()
+if(NOT errores STREQUAL "")
+  message(FATAL_ERROR "texalon-calculo ha escrito en la salida de errores:\n${errores}")
+endif()
+get_filename_component(nombre "${FICHERO}" NAME_WLE)
+set(svg "${CARPETA}/${nombre}-${NOMBRE}.svg")
+if(NOT EXISTS "${svg}")
+  message(FATAL_ERROR "No se ha escrito ${svg}\n${errores}")
+endif()
+file(READ "${svg}" contenido)
+foreach(parte "<svg" "${TEXTO}")
+  string(FIND "${contenido}" "${parte}" posicion)
+  if(posicion EQUAL -1)
+    message(FATAL_ERROR "${svg} no contiene «${parte}»")
+  endif()
+endforeach()

@@ -1,0 +1,156 @@
+// The command line of the diagrams: --diagrama, --tipo, --capas and --svg, their values and
+// their usage errors, and the help that tells them.
+#include "Prueba.h"
+
+#include "calculo/Calculo.h"
+
+#include <gtest/gtest.h>
+
+namespace texalon::prueba {
+namespace {
+
+// The two lines of a usage error.
+std::string ErrorDeUso(const std::string& error)
+{
+    return "texalon-calculo: " + error + "\nPruebe «texalon-calculo --help» para más información.\n";
+}
+
+void EsperaErrorDeUso(const std::vector<std::string>& argumentos, const std::string& error)
+{
+    const Ejecucion ejecucion = EjecutaCalculo(argumentos);
+    EXPECT_EQ(ejecucion.estado, 2);
+    EXPECT_EQ(ejecucion.salida, "");
+    EXPECT_EQ(ejecucion.errores, ErrorDeUso(error));
+}
+
+TEST(OrdenDiagrama, DiagramaDesconocido)
+{
+    EsperaErrorDeUso({"--diagrama", "tensiones", "viga.vmf"},
+                     "diagrama «tensiones» no reconocido: los diagramas son tension, confinamiento, area, capas, "
+                     "pivotes y seccion.");
+}
+
+TEST(OrdenDiagrama, ElNombreNoLlevaTildeNiMayusculas)
+{
+    for (const std::string nombre : {"tensión", "Capas", "SECCION", ""})
+        EXPECT_EQ(EjecutaCalculo({"--diagrama", nombre, "viga.vmf"}).estado, 2) << nombre;
+}
+
+TEST(OrdenDiagrama, ElValorSeTomaAunqueEmpieceConGuion)
+{
+    EsperaErrorDeUso({"--diagrama", "--json", "viga.vmf"},
+                     "diagrama «--json» no reconocido: los diagramas son tension, confinamiento, area, capas, "
+                     "pivotes y seccion.");
+}
+
+TEST(OrdenDiagrama, TipoFueraDeIntervalo)
+{
+    for (const std::string valor : {"0", "4", "-1", "10"})
+        EsperaErrorDeUso({"--diagrama", "tension", "--tipo", valor, "viga.vmf"},
+                         "el valor «" + valor + "» de --tipo no es un número entero de 1 a 3.");
+}
+
+TEST(OrdenDiagrama, TipoQueNoEsUnNumero)
+{
+    for (const std::string valor : {"dos", "1.5", "1,0", "+1", " 1", "1 ", "", "99999999999999999999"})
+        EsperaErrorDeUso({"--diagrama", "tension", "--tipo", valor, "viga.vmf"},
+                         "el valor «" + valor + "» de --tipo no es un número entero de 1 a 3.");
+}
+
+TEST(OrdenDiagrama, CapasFueraDeIntervaloONoNumericas)
+{
+    for (const std::string valor : {"0", "6", "tres", "2.0"})
+        EsperaErrorDeUso({"--diagrama", "pivotes", "--capas", valor, "viga.vmf"},
+                         "el valor «" + valor + "» de --capas no es un número entero de 1 a 5.");
+}
+
+TEST(OrdenDiagrama, LosExtremosSeAceptan)
+{
+    DirectorioTemporal directorio;
+    const std::string fichero = directorio.Escribe("viga.vmf", kFlexionRectangular);
+    EXPECT_EQ(EjecutaCalculo({"--diagrama", "tension", "--tipo", "3", fichero}).estado, 0);
+    EXPECT_EQ(EjecutaCalculo({"--diagrama", "pivotes", "--tipo", "1", "--capas", "5", fichero}).estado, 0);
+    EXPECT_EQ(EjecutaCalculo({"--diagrama", "pivotes", "--tipo", "1", "--capas", "01", fichero}).estado, 0);
+}
+
+TEST(OrdenDiagrama, FaltaElValor)
+{
+    for (const std::string opcion : {"--diagrama", "--tipo", "--capas", "--svg"})
+        EsperaErrorDeUso({"viga.vmf", opcion}, "falta el valor de la opción «" + opcion + "».");
+}
+
+TEST(OrdenDiagrama, UnaCarpetaVaciaNoEsCarpeta)
+{
+    EsperaErrorDeUso({"--diagrama", "capas", "--svg", "", "viga.vmf"}, "falta el valor de la opción «--svg».");
+}
+
+TEST(OrdenDiagrama, SvgSinDiagramaEsErrorDeUso)
+{
+    EsperaErrorDeUso({"--svg", "salida", "viga.vmf"}, "la opción «--svg» necesita «--diagrama NOMBRE».");
+}
+
+TEST(OrdenDiagrama, SinFicheroSeDiceEsoPrimero)
+{
+    EsperaErrorDeUso({"--svg", "salida"}, "falta el nombre de algún fichero.");
+    EsperaErrorDeUso({"--diagrama", "capas"}, "falta el nombre de algún fichero.");
+}
+
+TEST(OrdenDiagrama, ElPrimerErrorEsElQueSeDice)
+{
+    EsperaErrorDeUso({"--tipo", "9", "--diagrama", "nada", "viga.vmf"},
+                     "el valor «9» de --tipo no es un número entero de 1 a 3.");
+}
+
+TEST(OrdenDiagrama, TrasDosGuionesLasOpcionesSonNombres)
+{
+    const Ejecucion ejecucion = EjecutaCalculo({"--", "--diagrama", "capas"});
+    EXPECT_EQ(ejecucion.estado, 1);
+    EXPECT_EQ(ejecucion.errores,
+              "--diagrama: no es un fichero de proyecto TEXALON (.vmf o .vmc).\n"
+              "capas: no es un fichero de proyecto TEXALON (.vmf o .vmc).\n");
+}
+
+TEST(OrdenDiagrama, LaAyudaPuedeConLasOpcionesDeDiagrama)
+{
+    const Ejecucion ejecucion = EjecutaCalculo({"--diagrama", "capas", "--svg", "salida", "--help"});
+    EXPECT_EQ(ejecucion.estado, 0);
+    EXPECT_EQ(ejecucion.salida, calculo::TextoAyuda());
+}
+
+TEST(OrdenDiagrama, LaAyudaNombraTodasLasOpciones)
+{
+    const std::string ayuda = calculo::TextoAyuda();
+    for (const std::string_view opcion :
+         {"--json", "--diagrama NOMBRE", "--tipo N", "--capas N", "--svg CARPETA", "-h, --help", "  --  "})
+        EXPECT_TRUE(Contiene(ayuda, opcion));
+    EXPECT_TRUE(Contiene(ayuda,
+                         "  o: texalon-calculo [--json] --diagrama NOMBRE [--tipo N] [--capas N]\n"
+                         "                     [--svg CARPETA] FICHERO...\n"));
+}
+
+TEST(OrdenDiagrama, LaAyudaNombraTodosLosDiagramas)
+{
+    const std::string ayuda = calculo::TextoAyuda();
+    for (const std::string_view nombre : {"tension", "confinamiento", "area", "capas", "pivotes", "seccion"})
+        EXPECT_TRUE(Contiene(ayuda, "                " + std::string(nombre) + " ")) << nombre;
+}
+
+TEST(OrdenDiagrama, LaAyudaDiceLaListaElSvgYLosErrores)
+{
+    const std::string ayuda = calculo::TextoAyuda();
+    EXPECT_TRUE(Contiene(ayuda, "«lista»"));
+    EXPECT_TRUE(Contiene(ayuda, "DiagramaMomentoCapasT"));
+    EXPECT_TRUE(Contiene(ayuda, "«NLISTA», «LISTA»"));
+    EXPECT_TRUE(Contiene(ayuda, "«TEXTOS» llevan el separador decimal del sistema"));
+    EXPECT_TRUE(Contiene(ayuda, "de 1 a 3 (1 TEXALON L,\n              2 TEXALON H, 3 TEXALON X); 1 si no se da."));
+    EXPECT_TRUE(Contiene(ayuda, "de 1 a 5; 1 si no se da."));
+    EXPECT_TRUE(Contiene(ayuda, "CARPETA/<nombre del fichero sin extensión>-NOMBRE.svg"));
+    EXPECT_TRUE(Contiene(ayuda, "no necesita pantalla gráfica"));
+    EXPECT_TRUE(Contiene(ayuda, "predeformación superior al 2 por mil"));
+    EXPECT_TRUE(Contiene(ayuda, "(area en un pilar, por ejemplo)"));
+    EXPECT_TRUE(Contiene(ayuda, "resultado («---»)"));
+    EXPECT_TRUE(Contiene(ayuda, "o --svg sin --diagrama."));
+}
+
+}  // namespace
+}  // namespace texalon::prueba

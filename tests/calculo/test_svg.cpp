@@ -1,0 +1,208 @@
+// --svg through the library: which file each diagram goes to, with which picture and fit, and
+// what a file that cannot be written does. The writer here records its calls; the real one,
+// with Qt, is the program's and is run by the command's own tests.
+#include "Json.h"
+#include "Prueba.h"
+
+#include "calculo/Calculo.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+
+namespace texalon::prueba {
+namespace {
+
+struct Llamada {
+    Pantalla pantalla;
+    Entero isotropico;
+    std::string fichero;
+    Entero NLISTA;
+    std::vector<std::string> textos;
+};
+
+// Records each call and writes a token file, or refuses when told.
+class EscritorDePrueba {
+public:
+    explicit EscritorDePrueba(bool escribe = true) : escribe_(escribe) {}
+
+    calculo::EscritorSvg Escritor()
+    {
+        return [this](GeneralDibujo& d, Pantalla pantalla, Entero isotropico, const std::string& fichero) {
+            Llamada llamada{pantalla, isotropico, fichero, d.NLISTA, {}};
+            for (int i = 1; i <= d.NLISTA; ++i)
+                llamada.textos.push_back(d.TEXTOS(i));
+            llamadas.push_back(llamada);
+            if (!escribe_) return false;
+            std::ofstream(fichero) << "<svg/>";
+            return true;
+        };
+    }
+
+    std::vector<Llamada> llamadas;
+
+private:
+    bool escribe_;
+};
+
+TEST(SvgCalculo, CadaFicheroASuNombreConElDelDiagrama)
+{
+    DirectorioTemporal directorio;
+    const std::string viga = directorio.Escribe("viga.vmf", kFlexionRectangular);
+    const std::string vigaT = directorio.Escribe("viga_t.VMF", kFlexionT);
+    const std::string carpeta = directorio.Fichero("dibujos");
+    EscritorDePrueba escritor;
+    const Ejecucion ejecucion =
+        EjecutaCalculo({"--diagrama", "capas", "--svg", carpeta, viga, vigaT}, ',', escritor.Escritor());
+    EXPECT_EQ(ejecucion.estado, 0) << ejecucion.errores;
+    EXPECT_EQ(ejecucion.errores, "");
+    ASSERT_EQ(escritor.llamadas.size(), 2U);
+    EXPECT_EQ(escritor.llamadas[0].fichero, (std::filesystem::path(carpeta) / "viga-capas.svg").string());
+    EXPECT_EQ(escritor.llamadas[0].pantalla, Pantalla::Flexion);
+    EXPECT_EQ(escritor.llamadas[0].isotropico, 0);
+    EXPECT_EQ(escritor.llamadas[1].fichero, (std::filesystem::path(carpeta) / "viga_t-capas.svg").string());
+    EXPECT_EQ(escritor.llamadas[1].pantalla, Pantalla::FlexionT);
+    // The folder was made, and the files are there.
+    EXPECT_TRUE(std::filesystem::exists(escritor.llamadas[0].fichero));
+    EXPECT_TRUE(std::filesystem::exists(escritor.llamadas[1].fichero));
+}
+
+TEST(SvgCalculo, LasSeccionesConservanSusProporciones)
+{
+    DirectorioTemporal directorio;
+    const std::string viga = directorio.Escribe("viga.vmf", kFlexionRectangular);
+    const std::string vigaT = directorio.Escribe("viga_t.vmf", kFlexionT);
+    const std::string pilar = directorio.Escribe("pilar.vmc", kConfinamiento);
+    EscritorDePrueba escritor;
+    const Ejecucion ejecucion = EjecutaCalculo(
+        {"--diagrama", "seccion", "--svg", directorio.Ruta().string(), viga, vigaT, pilar}, ',', escritor.Escritor());
+    EXPECT_EQ(ejecucion.estado, 0) << ejecucion.errores;
+    ASSERT_EQ(escritor.llamadas.size(), 3U);
+    EXPECT_EQ(escritor.llamadas[0].pantalla, Pantalla::Flexion);
+    EXPECT_EQ(escritor.llamadas[1].pantalla, Pantalla::FlexionT);
+    EXPECT_EQ(escritor.llamadas[2].pantalla, Pantalla::Confina);
+    for (const Llamada& llamada : escritor.llamadas)
+        EXPECT_EQ(llamada.isotropico, 1) << llamada.fichero;
+    EXPECT_EQ(std::filesystem::path(escritor.llamadas[2].fichero).filename(), "pilar-seccion.svg");
+}
+
+TEST(SvgCalculo, ElDiagramaDeTensionVaEnLaPantallaDeCaracteristicas)
+{
+    DirectorioTemporal directorio;
+    const std::string pilar = directorio.Escribe("pilar.vmc", kConfinamiento);
+    EscritorDePrueba escritor;
+    const Ejecucion ejecucion =
+        EjecutaCalculo({"--diagrama", "tension", "--svg", directorio.Ruta().string(), pilar}, ',', escritor.Escritor());
+    EXPECT_EQ(ejecucion.estado, 0) << ejecucion.errores;
+    ASSERT_EQ(escritor.llamadas.size(), 1U);
+    EXPECT_EQ(escritor.llamadas[0].pantalla, Pantalla::Carac);
+    EXPECT_EQ(escritor.llamadas[0].isotropico, 0);
+}
+
+TEST(SvgCalculo, ConfinamientoYPivotesConSuPantalla)
+{
+    DirectorioTemporal directorio;
+    const std::string pilar = directorio.Escribe("pilar.vmc", kConfinamiento);
+    const std::string viga = directorio.Escribe("viga.vmf", kFlexionRectangular);
+    EscritorDePrueba confina;
+    EXPECT_EQ(EjecutaCalculo({"--diagrama", "confinamiento", "--svg", directorio.Ruta().string(), pilar}, ',',
+                             confina.Escritor())
+                  .estado,
+              0);
+    ASSERT_EQ(confina.llamadas.size(), 1U);
+    EXPECT_EQ(confina.llamadas[0].pantalla, Pantalla::Confina);
+    EXPECT_EQ(confina.llamadas[0].isotropico, 0);
+    EscritorDePrueba pivotes;
+    EXPECT_EQ(
+        EjecutaCalculo({"--diagrama", "pivotes", "--svg", directorio.Ruta().string(), viga}, ',', pivotes.Escritor())
+            .estado,
+        0);
+    ASSERT_EQ(pivotes.llamadas.size(), 1U);
+    EXPECT_EQ(pivotes.llamadas[0].pantalla, Pantalla::Flexion);
+    EXPECT_EQ(pivotes.llamadas[0].isotropico, 0);
+}
+
+TEST(SvgCalculo, ElNombreEsElDelFicheroSinSuExtension)
+{
+    DirectorioTemporal directorio;
+    const std::string viga = directorio.Escribe("mi.viga.VMF", kFlexionRectangular);
+    EscritorDePrueba escritor;
+    EjecutaCalculo({"--diagrama", "area", "--svg", directorio.Ruta().string(), viga}, ',', escritor.Escritor());
+    ASSERT_EQ(escritor.llamadas.size(), 1U);
+    EXPECT_EQ(escritor.llamadas[0].fichero, directorio.Fichero("mi.viga-area.svg"));
+}
+
+TEST(SvgCalculo, ElSvgRecibeLaListaDelJson)
+{
+    DirectorioTemporal directorio;
+    const std::string viga = directorio.Escribe("viga.vmf", kFlexionRectangular);
+    EscritorDePrueba escritor;
+    const Ejecucion ejecucion = EjecutaCalculo(
+        {"--json", "--diagrama", "area", "--svg", directorio.Ruta().string(), viga}, '.', escritor.Escritor());
+    EXPECT_EQ(ejecucion.estado, 0);
+    ASSERT_EQ(escritor.llamadas.size(), 1U);
+    const ValorJson lista = LeeJson(ejecucion.salida)["lista"];
+    EXPECT_EQ(lista["NLISTA"].numero, escritor.llamadas[0].NLISTA);
+    std::vector<std::string> textos;
+    for (const ValorJson& texto : lista["TEXTOS"].lista)
+        textos.push_back(texto.cadena);
+    EXPECT_EQ(textos, escritor.llamadas[0].textos);
+}
+
+TEST(SvgCalculo, SinSvgNoSeEscribeNada)
+{
+    DirectorioTemporal directorio;
+    const std::string viga = directorio.Escribe("viga.vmf", kFlexionRectangular);
+    EscritorDePrueba escritor;
+    EXPECT_EQ(EjecutaCalculo({"--json", "--diagrama", "area", viga}, ',', escritor.Escritor()).estado, 0);
+    EXPECT_TRUE(escritor.llamadas.empty());
+}
+
+TEST(SvgCalculo, UnFicheroQueFallaNoSeEscribe)
+{
+    DirectorioTemporal directorio;
+    const std::string pilar = directorio.Escribe("pilar.vmc", kConfinamiento);
+    const std::string viga = directorio.Escribe("viga.vmf", kFlexionRectangular);
+    EscritorDePrueba escritor;
+    const Ejecucion ejecucion =
+        EjecutaCalculo({"--diagrama", "area", "--svg", directorio.Ruta().string(), pilar, "ausente.vmf", viga}, ',',
+                       escritor.Escritor());
+    EXPECT_EQ(ejecucion.estado, 1);
+    ASSERT_EQ(escritor.llamadas.size(), 1U);
+    EXPECT_EQ(escritor.llamadas[0].fichero, directorio.Fichero("viga-area.svg"));
+}
+
+TEST(SvgCalculo, UnSvgQueNoSePuedeEscribirEsUnFallo)
+{
+    DirectorioTemporal directorio;
+    const std::string viga = directorio.Escribe("viga.vmf", kFlexionRectangular);
+    const std::string vigaT = directorio.Escribe("viga_t.vmf", kFlexionT);
+    EscritorDePrueba escritor(false);
+    const Ejecucion ejecucion = EjecutaCalculo(
+        {"--json", "--diagrama", "capas", "--svg", directorio.Ruta().string(), viga, vigaT}, ',', escritor.Escritor());
+    EXPECT_EQ(ejecucion.estado, 1);
+    // Both files were tried: the first failure stops nothing.
+    ASSERT_EQ(escritor.llamadas.size(), 2U);
+    const std::string destino = directorio.Fichero("viga-capas.svg");
+    const std::string mensaje = "no se ha podido escribir el diagrama en «" + destino + "».";
+    EXPECT_EQ(Lineas(ejecucion.errores),
+              (std::vector<std::string>{viga + ": " + mensaje, vigaT + ": no se ha podido escribir el diagrama en «" +
+                                                                   directorio.Fichero("viga_t-capas.svg") + "»."}));
+    EXPECT_EQ(Lineas(ejecucion.salida)[0],
+              "{\"fichero\":\"" + viga + "\",\"tipo\":\"rectangular\",\"error\":\"" + mensaje + "\"}");
+}
+
+TEST(SvgCalculo, SinEscritorNoSePuedeEscribir)
+{
+    DirectorioTemporal directorio;
+    const std::string viga = directorio.Escribe("viga.vmf", kFlexionRectangular);
+    const Ejecucion ejecucion = EjecutaCalculo({"--diagrama", "capas", "--svg", directorio.Ruta().string(), viga});
+    EXPECT_EQ(ejecucion.estado, 1);
+    EXPECT_EQ(ejecucion.errores,
+              viga + ": no se ha podido escribir el diagrama en «" + directorio.Fichero("viga-capas.svg") + "».\n");
+    EXPECT_EQ(ejecucion.salida, "");
+}
+
+}  // namespace
+}  // namespace texalon::prueba
