@@ -232,38 +232,20 @@ void FmFlexion::GraficoDelCalculo() { DiagramaMomentoCapas(); }
 void FmFlexion::DiagramaPivotes()
 {
     const char separador = plataforma::ServicioRegional().SeparadorDecimal();
-    if (seccionT_)
-        texalon::DiagramaPivotesT(Estado(), EstadoDibujo(), celdaMostrada_, separador);
-    else
-        texalon::DiagramaPivotes(Estado(), EstadoDibujo(), celdaMostrada_, separador);
+    const auto pivotes = seccionT_ ? texalon::DiagramaPivotesT : texalon::DiagramaPivotes;
+    pivotes(Estado(), EstadoDibujo(), celdaMostrada_, separador);
 }
 
-void FmFlexion::DiagramaMomentoCapas()
+void FmFlexion::Dibuja(Diagrama rectangular, Diagrama t)
 {
-    const char separador = plataforma::ServicioRegional().SeparadorDecimal();
-    if (seccionT_)
-        texalon::DiagramaMomentoCapasT(Estado(), EstadoDibujo(), separador);
-    else
-        texalon::DiagramaMomentoCapas(Estado(), EstadoDibujo(), separador);
+    (seccionT_ ? t : rectangular)(Estado(), EstadoDibujo(), plataforma::ServicioRegional().SeparadorDecimal());
 }
 
-void FmFlexion::DiagramaMomentoArea()
-{
-    const char separador = plataforma::ServicioRegional().SeparadorDecimal();
-    if (seccionT_)
-        texalon::DiagramaMomentoAreaT(Estado(), EstadoDibujo(), separador);
-    else
-        texalon::DiagramaMomentoArea(Estado(), EstadoDibujo(), separador);
-}
+void FmFlexion::DiagramaMomentoCapas() { Dibuja(texalon::DiagramaMomentoCapas, texalon::DiagramaMomentoCapasT); }
 
-void FmFlexion::DibujaSeccion()
-{
-    const char separador = plataforma::ServicioRegional().SeparadorDecimal();
-    if (seccionT_)
-        texalon::DibujaSeccionT(Estado(), EstadoDibujo(), separador);
-    else
-        texalon::DibujaSeccion(Estado(), EstadoDibujo(), separador);
-}
+void FmFlexion::DiagramaMomentoArea() { Dibuja(texalon::DiagramaMomentoArea, texalon::DiagramaMomentoAreaT); }
+
+void FmFlexion::DibujaSeccion() { Dibuja(texalon::DibujaSeccion, texalon::DibujaSeccionT); }
 
 void FmFlexion::BajaBandera(General& g)
 {

@@ -39,6 +39,8 @@ private:
     TextosFlexion Textos() const;
 
     // The diagrams of the screen, each the rectangular or T procedure as the screen is.
+    using Diagrama = void (*)(const General&, GeneralDibujo&, char);
+    void Dibuja(Diagrama rectangular, Diagrama t);
     void DiagramaPivotes();
     void DiagramaMomentoCapas();
     void DiagramaMomentoArea();
