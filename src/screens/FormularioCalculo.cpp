@@ -29,6 +29,10 @@ constexpr int kAltoFila = 300;
 constexpr int kAnchoColumna = 1595;
 constexpr int kAnchoColumna0 = 1000;
 
+// The height of the verdict's band over the picture, in pixels: it covers the whole line of a
+// chart's title, which stands in the top tenth of every picture.
+constexpr int kAltoBandaVeredicto = 32;
+
 // QBColor 2, green, and QBColor 12, light red.
 const QColor kVerdeVeredicto(0, 128, 0);
 const QColor kRojoVeredicto(255, 0, 0);
@@ -172,13 +176,21 @@ Lienzo* FormularioCalculo::CreaDibujoConVeredicto(const char* nombre, Pantalla p
     QWidget* superficie = dibujo->viewport();
     info_ = CreaEtiqueta(textoVeredicto, superficie, "LB_INFO");
     info_->setAttribute(Qt::WA_TransparentForMouseEvents);
+    // A child of the picture's surface would take its white base and black text as its own
+    // roles; the verdict paints with the roles that its colours are set on.
+    info_->setBackgroundRole(QPalette::Window);
+    info_->setForegroundRole(QPalette::WindowText);
+    info_->setAutoFillBackground(true);
     QFont negrita = info_->font();
     negrita.setBold(true);
     info_->setFont(negrita);
     info_->setAlignment(Qt::AlignCenter);
     info_->setVisible(false);
+    // A band across the top of the picture, where the chart has its title.
+    info_->setFixedHeight(kAltoBandaVeredicto);
     auto* capas = new QVBoxLayout(superficie);
-    capas->addWidget(info_, 0, Qt::AlignTop | Qt::AlignHCenter);
+    capas->setContentsMargins(0, 0, 0, 0);
+    capas->addWidget(info_, 0, Qt::AlignTop);
     capas->addStretch(1);
     return dibujo;
 }
@@ -309,8 +321,11 @@ void FormularioCalculo::MuestraVeredicto(Veredicto veredicto)
         return;
     }
     info_->setText(Texto(TextoVeredicto(veredicto)));
+    // The verdict's colour fills the label and the text is white: it stands over the chart's
+    // title, and must read at a glance whatever the chart shows under it.
     QPalette color = info_->palette();
-    color.setColor(QPalette::WindowText, veredicto == Veredicto::NoEsNecesario ? kVerdeVeredicto : kRojoVeredicto);
+    color.setColor(QPalette::Window, veredicto == Veredicto::NoEsNecesario ? kVerdeVeredicto : kRojoVeredicto);
+    color.setColor(QPalette::WindowText, Qt::white);
     info_->setPalette(color);
     info_->setVisible(true);
 }

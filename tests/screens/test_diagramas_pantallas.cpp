@@ -200,6 +200,26 @@ private slots:
         QVERIFY(!EstadoDibujo().F_ZOOM);
     }
 
+    void elVeredictoSeLeeSobreElDiagrama()
+    {
+        Abre<FmConfina>();
+        Estado().INCR = 3.0;
+        prueba::Pulsa(C("CM_CALCULAR"));
+        auto* info = qobject_cast<QLabel*>(C("LB_INFO"));
+        QVERIFY(info->isVisible());
+        // What the picture shows where the verdict stands: its red, over the chart's title.
+        const QImage imagen = Dibujo("PIC_CONFINA")->grab().toImage();
+        const QPoint esquina = info->mapTo(Dibujo("PIC_CONFINA"), QPoint(2, 2));
+        QCOMPARE(QColor(imagen.pixel(esquina)), QColor(255, 0, 0));
+        // And its letters are white.
+        const QImage etiqueta = info->grab().toImage();
+        bool blanco = false;
+        for (int x = 0; x < etiqueta.width() && !blanco; ++x)
+            for (int y = 0; y < etiqueta.height() && !blanco; ++y)
+                blanco = QColor(etiqueta.pixel(x, y)) == QColor(Qt::white);
+        QVERIFY(blanco);
+    }
+
     void elZoomConDosClicsYElClicDerechoQueReajusta()
     {
         Abre<FmConfina>();

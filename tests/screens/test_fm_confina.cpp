@@ -735,7 +735,9 @@ private slots:
         auto* info = Etiqueta("LB_INFO");
         QVERIFY(info->isVisible());
         QCOMPARE(info->text(), QStringLiteral(" NO SE PUEDE REFORZAR LA SECCION "));
-        QCOMPARE(info->palette().color(QPalette::WindowText), QColor(255, 0, 0));
+        QCOMPARE(info->palette().color(QPalette::Window), QColor(255, 0, 0));
+        QCOMPARE(info->palette().color(QPalette::WindowText), QColor(Qt::white));
+        QVERIFY(info->autoFillBackground());
         for (int n = 1; n <= 5; ++n)
             for (int t = 1; t <= 3; ++t) {
                 QVERIFY(!Rejilla()->Texto(n, t).isEmpty());

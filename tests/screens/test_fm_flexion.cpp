@@ -285,7 +285,9 @@ private slots:
         auto* info = qobject_cast<QLabel*>(C("LB_INFO"));
         QVERIFY(info->isVisible());
         QCOMPARE(info->text(), QStringLiteral(" NO ES NECESARIO REFORZAR LA SECCION "));
-        QCOMPARE(info->palette().color(QPalette::WindowText), QColor(0, 128, 0));
+        QCOMPARE(info->palette().color(QPalette::Window), QColor(0, 128, 0));
+        QCOMPARE(info->palette().color(QPalette::WindowText), QColor(Qt::white));
+        QVERIFY(info->autoFillBackground());
         QVERIFY(BotonesResultado(true));
         RejillaResultados* r = Rejilla();
         QVERIFY(r->EstaActiva());
@@ -336,7 +338,9 @@ private slots:
         auto* info = qobject_cast<QLabel*>(C("LB_INFO"));
         QVERIFY(info->isVisible());
         QCOMPARE(info->text(), QStringLiteral(" NO SE PUEDE REFORZAR LA SECCION "));
-        QCOMPARE(info->palette().color(QPalette::WindowText), QColor(255, 0, 0));
+        QCOMPARE(info->palette().color(QPalette::Window), QColor(255, 0, 0));
+        QCOMPARE(info->palette().color(QPalette::WindowText), QColor(Qt::white));
+        QVERIFY(info->autoFillBackground());
         for (int n = 1; n <= 5; ++n)
             for (int t = 1; t <= 3; ++t)
                 QCOMPARE(Rejilla()->Color(n, t), QColor(255, 255, 255));
