@@ -487,6 +487,8 @@ bool EscribeSvg(GeneralDibujo& d, Pantalla pantalla, Entero isotropico, const QS
     svg.setSize(QSize(tamano.ancho, tamano.alto));
     svg.setViewBox(area);
     svg.setResolution(static_cast<int>(DpiPantalla()));
+    svg.setTitle(QStringLiteral("TEXALON"));
+    svg.setDescription(QStringLiteral("Diagrama de TEXALON, como se ve en la pantalla"));
     QPainter pintor;
     if (!pintor.begin(&svg)) return false;
     pintor.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
