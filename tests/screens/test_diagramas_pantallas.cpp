@@ -238,6 +238,29 @@ private slots:
         QCOMPARE(dibujo->Elementos(ClasePantalla::Tit).front().tamano, letra);
     }
 
+    void laBandaEmpezadaSobreviveAUnDiagramaNuevo()
+    {
+        Abre<FmFlexion>(false);
+        prueba::Pulsa(C("CM_CALCULAR"));
+        Lienzo* dibujo = Dibujo("PIC_FLEXION");
+        QTest::mouseClick(dibujo->viewport(), Qt::LeftButton, {}, QPoint(40, 20));
+        QVERIFY(EstadoDibujo().F_ZOOM);
+        prueba::Pulsa(C("CM_ARMADURA"));
+        QVERIFY(EstadoDibujo().F_MOMENTOS);
+        // The new diagram leaves the first corner armed: the next click zooms from it.
+        QVERIFY(EstadoDibujo().F_ZOOM);
+        QCOMPARE(EstadoDibujo().ZOOMX1, 40.0);
+        QTest::mouseMove(dibujo->viewport(), QPoint(150, 64));
+        QTest::mouseClick(dibujo->viewport(), Qt::LeftButton, {}, QPoint(150, 64));
+        QVERIFY(!EstadoDibujo().F_ZOOM);
+        // 440 / 110 and 176 / 44.
+        QCOMPARE(EstadoDibujo().ZOOM, 4.0);
+        // The band stays on show after the second click, until the pointer moves again.
+        QVERIFY(dibujo->BandaVisible());
+        QTest::mouseMove(dibujo->viewport(), QPoint(160, 70));
+        QVERIFY(!dibujo->BandaVisible());
+    }
+
     void caracteristicasDibujaElTipoDeCadaOpcion()
     {
         Abre<FmCarac>();
