@@ -16,6 +16,9 @@ namespace texalon::prueba {
 // The files that New and Save give for the start values of each screen.
 inline constexpr std::string_view kFlexionRectangular =
     "1\r\n0.4\r\n0.6\r\n0.05\r\n10\r\n0\r\n25\r\n500\r\n1.5\r\n1.15\r\n1.4\r\n0.125\r\n0\r\n0\r\n";
+// The same section with a design moment of 250 mkN.
+inline constexpr std::string_view kFlexionRectangularMd250 =
+    "1\r\n0.4\r\n0.6\r\n0.05\r\n10\r\n0\r\n25\r\n500\r\n1.5\r\n1.15\r\n1.4\r\n0.125\r\n0\r\n250\r\n";
 inline constexpr std::string_view kFlexionT =
     "2\r\n0.4\r\n0.6\r\n0.2\r\n0.2\r\n0.05\r\n10\r\n0\r\n25\r\n500\r\n1.5\r\n1.15\r\n1.4\r\n0.125\r\n0\r\n0\r\n";
 inline constexpr std::string_view kConfinamiento = "1\r\n0.5\r\n0.4\r\n25\r\n1.5\r\n1.15\r\n1.4\r\n0\r\n1\r\n";

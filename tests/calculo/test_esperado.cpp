@@ -4,6 +4,10 @@
 
 #include <gtest/gtest.h>
 
+#include <string>
+#include <utility>
+#include <vector>
+
 namespace texalon::prueba {
 namespace {
 
@@ -44,21 +48,38 @@ TEST_P(Esperado, Json) { ComparaSalida(GetParam(), true); }
 INSTANTIATE_TEST_SUITE_P(Calculo, Esperado, ::testing::ValuesIn(kCasos),
                          [](const ::testing::TestParamInfo<Caso>& caso) { return std::string(caso.param.nombre); });
 
-// The JSON with a diagram's list, its texts with the comma of a Spanish machine.
+// The JSON with the list of every diagram of the default projects, the rectangular one with a
+// design moment of 250 mkN so that its charts have the marker, under both decimal settings.
+const Caso kVigaMd250 = {"viga", ".vmf", kFlexionRectangularMd250};
+
 struct CasoDiagrama {
     Caso proyecto;
-    std::vector<std::string> opciones;
-    std::string_view esperado;  // the expected output, with .json
+    std::string_view diagrama;
+    char separador;
+
+    // The name of the expected output, without its .json: "viga-capas-coma".
+    std::string Esperado() const
+    {
+        return std::string(proyecto.nombre) + "-" + std::string(diagrama) + (separador == ',' ? "-coma" : "-punto");
+    }
 };
 
-const CasoDiagrama kCasosDiagrama[] = {
-    {kCasos[0], {"--diagrama", "capas"}, "rectangular-capas"},
-    {kCasos[1], {"--diagrama", "pivotes", "--tipo", "2", "--capas", "2"}, "seccion_t-pivotes"},
-    {kCasos[2], {"--diagrama", "confinamiento"}, "confinamiento-confinamiento"},
-    {kCasos[2], {"--diagrama", "seccion"}, "confinamiento-seccion"},
-};
+std::vector<CasoDiagrama> CasosDiagrama()
+{
+    const std::pair<Caso, std::vector<std::string_view>> proyectos[] = {
+        {kVigaMd250, {"tension", "area", "capas", "pivotes", "seccion"}},
+        {kCasos[1], {"tension", "area", "capas", "pivotes", "seccion"}},
+        {kCasos[2], {"tension", "confinamiento", "seccion"}},
+    };
+    std::vector<CasoDiagrama> casos;
+    for (const auto& [proyecto, diagramas] : proyectos)
+        for (std::string_view diagrama : diagramas)
+            for (char separador : {',', '.'})
+                casos.push_back({proyecto, diagrama, separador});
+    return casos;
+}
 
-void PrintTo(const CasoDiagrama& caso, std::ostream* salida) { *salida << caso.esperado; }
+void PrintTo(const CasoDiagrama& caso, std::ostream* salida) { *salida << caso.Esperado(); }
 
 class EsperadoDiagrama : public ::testing::TestWithParam<CasoDiagrama> {};
 
@@ -68,20 +89,16 @@ TEST_P(EsperadoDiagrama, Json)
     DirectorioTemporal directorio;
     const std::string fichero = directorio.Escribe(
         std::string(caso.proyecto.nombre) + std::string(caso.proyecto.extension), caso.proyecto.contenido);
-    std::vector<std::string> argumentos = {"--json"};
-    argumentos.insert(argumentos.end(), caso.opciones.begin(), caso.opciones.end());
-    argumentos.push_back(fichero);
-
-    const Ejecucion ejecucion = EjecutaCalculo(argumentos, ',');
+    const Ejecucion ejecucion = EjecutaCalculo({"--json", "--diagrama", std::string(caso.diagrama), fichero}, caso.separador);
     EXPECT_EQ(ejecucion.estado, 0);
     EXPECT_EQ(ejecucion.errores, "");
     const std::string salida = Sustituye(ejecucion.salida, directorio.Ruta().string(), "TMP");
-    ComparaConEsperado(salida, std::string(caso.esperado) + ".json");
+    ComparaConEsperado(salida, caso.Esperado() + ".json");
 }
 
-INSTANTIATE_TEST_SUITE_P(Calculo, EsperadoDiagrama, ::testing::ValuesIn(kCasosDiagrama),
+INSTANTIATE_TEST_SUITE_P(Calculo, EsperadoDiagrama, ::testing::ValuesIn(CasosDiagrama()),
                          [](const ::testing::TestParamInfo<CasoDiagrama>& caso) {
-                             return Sustituye(std::string(caso.param.esperado), "-", "_");
+                             return Sustituye(caso.param.Esperado(), "-", "_");
                          });
 
 }  // namespace

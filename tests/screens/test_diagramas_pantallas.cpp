@@ -15,6 +15,7 @@
 #include <QLineEdit>
 #include <QRadioButton>
 #include <QtTest>
+#include <cstdlib>
 
 using namespace texalon;
 
@@ -51,6 +52,55 @@ class PruebaDiagramasPantallas : public prueba::PruebaDePantalla {
         for (const ElementoPantalla& e : Dibujo(dibujo)->Elementos(ClasePantalla::Tit))
             if (e.visible) textos << e.texto;
         return textos;
+    }
+
+    // Whether the picture, as painted, shows nearly this colour within two pixels of the point:
+    // the lines are antialiased, so their edges blend with the white.
+    static bool ColorCerca(const QImage& imagen, QPointF punto, const QColor& color)
+    {
+        for (int dx = -2; dx <= 2; ++dx)
+            for (int dy = -2; dy <= 2; ++dy) {
+                const QPoint p(qRound(punto.x()) + dx, qRound(punto.y()) + dy);
+                if (!imagen.rect().contains(p)) continue;
+                const QColor pintado = imagen.pixelColor(p);
+                const int distancia = std::abs(pintado.red() - color.red()) + std::abs(pintado.green() - color.green()) +
+                                      std::abs(pintado.blue() - color.blue());
+                if (distancia <= 60) return true;
+            }
+        return false;
+    }
+
+    // Whether some point along the line shows its colour: a dotted line has gaps.
+    static bool LineaVista(const QImage& imagen, const ElementoPantalla& e)
+    {
+        for (int k = 1; k < 20; ++k) {
+            const double t = k / 20.0;
+            if (ColorCerca(imagen, QPointF(e.x1 + (e.x2 - e.x1) * t, e.y1 + (e.y2 - e.y1) * t), e.color)) return true;
+        }
+        return false;
+    }
+
+    static QColor Catalogo(int tipo)
+    {
+        const Color c = Estado().COLORES(tipo);
+        return QColor(c % 256, (c / 256) % 256, c / 65536);
+    }
+
+    // The picture painted offscreen, as the user sees it.
+    QImage Pintado(const char* dibujo) { return Dibujo(dibujo)->viewport()->grab().toImage(); }
+
+    // Every sheet type has a thick line of its catalogue colour that the picture shows in it.
+    void CurvasEnSusColores(const char* dibujo)
+    {
+        const QImage imagen = Pintado(dibujo);
+        for (int tipo = 1; tipo <= Estado().NTIPOS; ++tipo) {
+            bool vista = false;
+            for (const ElementoPantalla& e : Dibujo(dibujo)->Elementos(ClasePantalla::Linea))
+                if (e.grosor == 2 && e.color == Catalogo(tipo) &&
+                    ColorCerca(imagen, QPointF((e.x1 + e.x2) / 2, (e.y1 + e.y2) / 2), Catalogo(tipo)))
+                    vista = true;
+            QVERIFY2(vista, qPrintable(QStringLiteral("tipo %1").arg(tipo)));
+        }
     }
 
     RejillaResultados* Rejilla(const char* nombre) { return qobject_cast<RejillaResultados*>(C(nombre)); }
@@ -259,6 +309,84 @@ private slots:
         QVERIFY(dibujo->BandaVisible());
         QTest::mouseMove(dibujo->viewport(), QPoint(160, 70));
         QVERIFY(!dibujo->BandaVisible());
+    }
+
+    void losDiagramasPintadosMuestranLosColoresDelCatalogo()
+    {
+        Abre<FmFlexion>(false);
+        prueba::Pulsa(C("CM_CALCULAR"));
+        CurvasEnSusColores("PIC_FLEXION");
+        prueba::Pulsa(C("CM_ARMADURA"));
+        CurvasEnSusColores("PIC_FLEXION");
+        // The marker of MD, thick and plum.
+        bool marca = false;
+        for (const ElementoPantalla& e : Dibujo("PIC_FLEXION")->Elementos(ClasePantalla::Linea))
+            if (e.grosor == 3 && e.color == QColor(128, 0, 64)) marca = LineaVista(Pintado("PIC_FLEXION"), e);
+        QVERIFY(marca);
+        // The pivots: red circles.
+        prueba::Pulsa(C("CM_DEFORMACIONES"));
+        const QImage pivotes = Pintado("PIC_FLEXION");
+        const auto puntos = Dibujo("PIC_FLEXION")->Elementos(ClasePantalla::Punto);
+        QCOMPARE(int(puntos.size()), 3);
+        // A hollow circle of a one-pixel rim, antialiased: somewhere on it the red is plain.
+        for (const ElementoPantalla& p : puntos) {
+            bool rojo = false;
+            for (int x = qFloor(p.izquierda); x <= qCeil(p.izquierda + p.ancho); ++x)
+                for (int y = qFloor(p.arriba); y <= qCeil(p.arriba + p.alto); ++y) {
+                    const QColor c = pivotes.pixelColor(x, y);
+                    rojo = rojo || (c.red() >= 200 && c.green() <= 140 && c.blue() <= 140);
+                }
+            QVERIFY(rojo);
+        }
+        // The section: the steel blue, the sheet red.
+        // At the picture's scale the bars are a pixel or two thick and show their black border
+        // alone; zoomed four times over the sheet, their fill shows.
+        prueba::Pulsa(C("CM_SECCION"));
+        Lienzo* dibujo = Dibujo("PIC_FLEXION");
+        const ElementoPantalla lamina = dibujo->Elementos(ClasePantalla::Barra).back();
+        QCOMPARE(lamina.color, QColor(255, 0, 0));
+        const QPoint esquina(qRound(lamina.izquierda) - 5, qRound(lamina.arriba) - 20);
+        QTest::mouseClick(dibujo->viewport(), Qt::LeftButton, {}, esquina);
+        QTest::mouseMove(dibujo->viewport(), esquina + QPoint(110, 44));
+        QTest::mouseClick(dibujo->viewport(), Qt::LeftButton, {}, esquina + QPoint(110, 44));
+        QCOMPARE(EstadoDibujo().ZOOM, 4.0);
+        QTest::mouseMove(dibujo->viewport(), QPoint(1, 1));
+        const QImage seccion = Pintado("PIC_FLEXION");
+        const ElementoPantalla ampliada = dibujo->Elementos(ClasePantalla::Barra).back();
+        QVERIFY(ampliada.alto >= 4);
+        QVERIFY(ColorCerca(seccion, QPointF(ampliada.izquierda + ampliada.ancho / 2, ampliada.arriba + ampliada.alto / 2),
+                           QColor(255, 0, 0)));
+
+        Abre<FmConfina>();
+        prueba::Pulsa(C("CM_CALCULAR"));
+        const QImage barras = Pintado("PIC_CONFINA");
+        for (int tipo = 1; tipo <= Estado().NTIPOS; ++tipo) {
+            bool vista = false;
+            for (const ElementoPantalla& b : Dibujo("PIC_CONFINA")->Elementos(ClasePantalla::Barra))
+                if (b.color == Catalogo(tipo) && b.alto > 4 &&
+                    ColorCerca(barras, QPointF(b.izquierda + b.ancho / 2, b.arriba + b.alto / 2), Catalogo(tipo)))
+                    vista = true;
+            QVERIFY(vista);
+        }
+        // The column: grey within a red rim, the earlier element in front.
+        prueba::Pulsa(C("CM_SECCION"));
+        const QImage columna = Pintado("PIC_CONFINA");
+        const auto formas = Dibujo("PIC_CONFINA")->Elementos(ClasePantalla::SecCir);
+        QCOMPARE(int(formas.size()), 2);
+        const ElementoPantalla& hormigon = formas[0];
+        const ElementoPantalla& refuerzo = formas[1];
+        QVERIFY(ColorCerca(columna, QPointF(hormigon.izquierda + hormigon.ancho / 2, hormigon.arriba + hormigon.alto / 2),
+                           QColor(192, 192, 192)));
+        QVERIFY(ColorCerca(columna, QPointF(refuerzo.izquierda + 1.5, refuerzo.arriba + refuerzo.alto / 2),
+                           QColor(255, 0, 0)));
+
+        Abre<FmCarac>();
+        const QImage tension = Pintado("PIC_CARAC");
+        bool linea = false;
+        for (const ElementoPantalla& e : Dibujo("PIC_CARAC")->Elementos(ClasePantalla::Linea))
+            if (e.grosor == 2 && e.color == Catalogo(1))
+                linea = ColorCerca(tension, QPointF((e.x1 + e.x2) / 2, (e.y1 + e.y2) / 2), Catalogo(1));
+        QVERIFY(linea);
     }
 
     void caracteristicasDibujaElTipoDeCadaOpcion()
