@@ -5,6 +5,8 @@
 #   -DPROGRAMA=<path of texalon-calculo>  -DNOMBRE=<diagram>  -DCARPETA=<folder, made anew>
 #   -DFICHERO=<project file>  -DTEXTO=<text expected in the picture>
 #   -DOPCIONES=<more options, parted by blanks, may be empty>
+#   -DESPERADO=<expected SVG file, optional>: the picture must be that file byte for byte; with
+#   TEXALON_ACTUALIZA_ESPERADO set in the environment it is written anew instead, for review.
 file(REMOVE_RECURSE "${CARPETA}")
 separate_arguments(opciones UNIX_COMMAND "${OPCIONES}")
 execute_process(
@@ -30,3 +32,13 @@ foreach(parte "<svg" "${TEXTO}")
     message(FATAL_ERROR "${svg} no contiene «${parte}»")
   endif()
 endforeach()
+if(DEFINED ESPERADO)
+  if(DEFINED ENV{TEXALON_ACTUALIZA_ESPERADO})
+    file(COPY_FILE "${svg}" "${ESPERADO}")
+  else()
+    execute_process(COMMAND "${CMAKE_COMMAND}" -E compare_files "${svg}" "${ESPERADO}" RESULT_VARIABLE distinto)
+    if(NOT distinto EQUAL 0)
+      message(FATAL_ERROR "${svg} no es igual que ${ESPERADO}")
+    endif()
+  endif()
+endif()
