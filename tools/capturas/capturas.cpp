@@ -9,6 +9,7 @@
 #include "shell/MdiPrincipal.h"
 #include "state/General.h"
 
+#include <QAbstractScrollArea>
 #include <QComboBox>
 #include <QGuiApplication>
 #include <QPixmap>
@@ -67,6 +68,14 @@ void Recorre(MdiPrincipal& p)
     Escribe(p, "TX_MD", "250");
     Pulsa(p, "CM_CALCULAR");
     Captura("flexion");
+    // Two clicks around the first layers of the chart, the band stretched between them.
+    QWidget* dibujo = qobject_cast<QAbstractScrollArea*>(C(p, "PIC_FLEXION"))->viewport();
+    QTest::mouseClick(dibujo, Qt::LeftButton, {}, QPoint(30, 70));
+    QTest::mouseMove(dibujo, QPoint(200, 120));
+    Captura("flexion_banda");
+    QTest::mouseClick(dibujo, Qt::LeftButton, {}, QPoint(200, 120));
+    Captura("flexion_zoom");
+    QTest::mouseClick(dibujo, Qt::RightButton, {}, QPoint(5, 5));
     Pulsa(p, "CM_ARMADURA");
     Captura("flexion_area");
     Pulsa(p, "CM_DEFORMACIONES");
