@@ -9,13 +9,10 @@
 #include "diagrams/Lista.h"
 #include "state/Catalogo.h"
 #include "state/Decimales.h"
-#include "state/ErrorEjecucion.h"
 #include "state/Formato.h"
 
-#include <charconv>
 #include <string>
 #include <string_view>
-#include <system_error>
 
 namespace texalon {
 
@@ -30,36 +27,6 @@ constexpr double kPivoteA = -10.0;
 // type and the number of layers, counted in characters from 1.
 constexpr int kPosicionCodigo = 23;
 constexpr int kPosicionCapas = 39;
-
-[[noreturn]] void NoEsNumero() { throw ErrorEjecucion(ErrorEjecucion::kTiposNoCoinciden); }
-
-// The number that a result field shows, written with the machine's decimal separator as the
-// field's format leaves it: an optional sign, digits and at most one separator. Anything else
-// ("---" on a cell without a value) is the run-time type error.
-double ValorCampo(std::string_view texto, char separador)
-{
-    std::string numero(Recortado(texto));
-    const bool negativo = !numero.empty() && numero.front() == '-';
-    if (!numero.empty() && (numero.front() == '-' || numero.front() == '+')) numero.erase(0, 1);
-    bool haySeparador = false;
-    bool hayDigito = false;
-    for (char& c : numero) {
-        if (c >= '0' && c <= '9') {
-            hayDigito = true;
-        } else if (c == separador && !haySeparador) {
-            haySeparador = true;
-            c = '.';
-        } else {
-            NoEsNumero();
-        }
-    }
-    if (!hayDigito) NoEsNumero();
-    double valor = 0.0;
-    const char* fin = numero.data() + numero.size();
-    const auto [resto, error] = std::from_chars(numero.data(), fin, valor);
-    if (error != std::errc() || resto != fin) NoEsNumero();
-    return negativo ? -valor : valor;
-}
 
 // The character at a position of a text, counted from 1 in characters and not in bytes; ""
 // beyond its end.
@@ -110,12 +77,12 @@ struct CeldaPivotes {
 CeldaPivotes LeeCelda(const ResultadosCeldaFlexion& celda, char separador)
 {
     CeldaPivotes c{};
-    c.ec = ValorCampo(celda.EPSC, separador);
-    c.er = ValorCampo(celda.EPSR, separador);
-    c.esi = ValorCampo(celda.EPSSI, separador);
-    c.ess = ValorCampo(celda.EPSSS, separador);
-    c.fn = ValorCampo(celda.FN, separador);
-    c.e0 = ValorCampo(celda.EPS0, separador);
+    c.ec = ValorDeTexto(celda.EPSC, separador);
+    c.er = ValorDeTexto(celda.EPSR, separador);
+    c.esi = ValorDeTexto(celda.EPSSI, separador);
+    c.ess = ValorDeTexto(celda.EPSSS, separador);
+    c.fn = ValorDeTexto(celda.FN, separador);
+    c.e0 = ValorDeTexto(celda.EPS0, separador);
     return c;
 }
 

@@ -1,5 +1,8 @@
 #include "state/Formato.h"
 
+#include "state/Decimales.h"
+#include "state/ErrorEjecucion.h"
+
 #include <algorithm>
 #include <charconv>
 #include <cmath>
@@ -10,6 +13,9 @@
 namespace texalon {
 
 namespace {
+
+[[noreturn]] void NoEsNumero() { throw ErrorEjecucion(ErrorEjecucion::kTiposNoCoinciden); }
+
 
 // Significant digits a value keeps before it is rounded for display.
 constexpr int kDigitosSignificativos = 15;
@@ -115,6 +121,31 @@ std::string FormatoTexto(std::string_view texto, std::string_view patron)
     if (caracteres < lugares) resultado.assign(lugares - caracteres, ' ');
     resultado.append(texto);
     return resultado;
+}
+
+double ValorDeTexto(std::string_view texto, char separador)
+{
+    std::string numero(Recortado(texto));
+    const bool negativo = !numero.empty() && numero.front() == '-';
+    if (!numero.empty() && (numero.front() == '-' || numero.front() == '+')) numero.erase(0, 1);
+    bool haySeparador = false;
+    bool hayDigito = false;
+    for (char& c : numero) {
+        if (c >= '0' && c <= '9') {
+            hayDigito = true;
+        } else if (c == separador && !haySeparador) {
+            haySeparador = true;
+            c = '.';
+        } else {
+            NoEsNumero();
+        }
+    }
+    if (!hayDigito) NoEsNumero();
+    double valor = 0.0;
+    const char* fin = numero.data() + numero.size();
+    const auto [resto, error] = std::from_chars(numero.data(), fin, valor);
+    if (error != std::errc() || resto != fin) NoEsNumero();
+    return negativo ? -valor : valor;
 }
 
 }  // namespace texalon

@@ -20,4 +20,10 @@ std::string Formato(double valor, std::string_view patron, char separador);
 // as UTF-8 code points.
 std::string FormatoTexto(std::string_view texto, std::string_view patron);
 
+// The number that a text in one of those formats shows, written with `separador` as its decimal
+// separator: blanks around it, an optional sign, digits and at most one separator. Anything
+// else ("---" on a cell without a value) is the run-time type error. So the diagrams and the
+// reports read the numbers of the result fields from the texts the screen shows.
+double ValorDeTexto(std::string_view texto, char separador);
+
 }  // namespace texalon

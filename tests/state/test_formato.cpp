@@ -1,6 +1,7 @@
 #include "state/Formato.h"
 
 #include "state/Decimales.h"
+#include "state/ErrorEjecucion.h"
 
 #include <gtest/gtest.h>
 
@@ -156,6 +157,32 @@ TEST(Formato, MenosDosComaCincoSeReescribeComoDosComaQuinientos)
     EXPECT_EQ(Formato(std::fabs(Decimales("-2,5")), "0.000", ','), "2,500");
     EXPECT_EQ(Formato(std::fabs(Decimales("-2,5")), "0.000", '.'), "2.500");
     EXPECT_EQ(Formato(Decimales("0,05"), "0.000", ','), "0,050");
+}
+
+}  // namespace
+}  // namespace texalon
+
+namespace texalon {
+namespace {
+
+TEST(ValorDeTexto, LeeLosNumerosDeLosCamposConSuSeparador)
+{
+    EXPECT_EQ(ValorDeTexto("238,5", ','), 238.5);
+    EXPECT_EQ(ValorDeTexto(" -9.64 ", '.'), -9.64);
+    EXPECT_EQ(ValorDeTexto("0,103", ','), 0.103);
+    EXPECT_EQ(ValorDeTexto("+12", ','), 12.0);
+}
+
+TEST(ValorDeTexto, LoQueNoEsUnNumeroEsElErrorDeTipos)
+{
+    for (const char* texto : {"---", "", "1.5", "1,2,3", "-", "R"}) {
+        try {
+            ValorDeTexto(texto, ',');
+            ADD_FAILURE() << texto;
+        } catch (const ErrorEjecucion& error) {
+            EXPECT_EQ(error.Numero(), ErrorEjecucion::kTiposNoCoinciden) << texto;
+        }
+    }
 }
 
 }  // namespace
