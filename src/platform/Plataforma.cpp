@@ -28,6 +28,7 @@ Ventanas& ServicioVentanas() { return Servicio(EnUso().ventanas); }
 Monitor& ServicioMonitor() { return Servicio(EnUso().monitor); }
 Regional& ServicioRegional() { return Servicio(EnUso().regional); }
 Proceso& ServicioProceso() { return Servicio(EnUso().proceso); }
+Impresoras& ServicioImpresoras() { return Servicio(EnUso().impresoras); }
 
 Servicios Instala(const Servicios& servicios)
 {

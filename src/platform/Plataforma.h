@@ -1,10 +1,11 @@
 // Everything the program asks of the operating system goes through these interfaces: the
-// message box, the file dialogs, modal windows, the screen size, the decimal separator and the
-// end of the process. The program installs the Qt implementations at start-up; the tests
-// install doubles that record what was asked and answer from a script, so no test ever waits
-// on a person.
+// message box, the file dialogs, modal windows, the screen size, the decimal separator, the end
+// of the process and the printers. The program installs the Qt implementations at start-up; the
+// tests install doubles that record what was asked and answer from a script, so no test ever
+// waits on a person.
 #pragma once
 
+#include "platform/Impresora.h"
 #include "state/ErrorEjecucion.h"
 
 #include <QSizeF>
@@ -97,6 +98,7 @@ Ventanas& ServicioVentanas();
 Monitor& ServicioMonitor();
 Regional& ServicioRegional();
 Proceso& ServicioProceso();
+Impresoras& ServicioImpresoras();
 
 struct Servicios {
     Mensajes* mensajes = nullptr;
@@ -105,6 +107,7 @@ struct Servicios {
     Monitor* monitor = nullptr;
     Regional* regional = nullptr;
     Proceso* proceso = nullptr;
+    Impresoras* impresoras = nullptr;
 };
 
 // Puts a set of services in place and returns the set it replaces.

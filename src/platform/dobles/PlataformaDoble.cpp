@@ -55,7 +55,7 @@ void ProcesoDoble::ErrorFatal(const ErrorEjecucion& error)
 }
 
 PlataformaDoble::PlataformaDoble()
-    : anteriores_(Instala({&mensajes, &ficheros, &ventanas, &monitor, &regional, &proceso}))
+    : anteriores_(Instala({&mensajes, &ficheros, &ventanas, &monitor, &regional, &proceso, &impresoras}))
 {
 }
 

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "platform/Plataforma.h"
+#include "platform/dobles/ImpresoraDoble.h"
 
 #include <deque>
 #include <functional>
@@ -88,6 +89,7 @@ public:
     MonitorDoble monitor;
     RegionalDoble regional;
     ProcesoDoble proceso;
+    ImpresorasDoble impresoras;
 
 private:
     Servicios anteriores_;

@@ -1,6 +1,7 @@
 #include "platform/qt/PlataformaQt.h"
 
 #include "platform/Dialogos.h"
+#include "platform/qt/ImpresoraQt.h"
 
 #include <QApplication>
 #include <QDialog>
@@ -12,6 +13,9 @@
 #include <QScreen>
 #include <cstdio>
 #include <cstdlib>
+
+// The resource's registration is a function of the global namespace.
+static void RegistraRecursoImagenes() { Q_INIT_RESOURCE(texalon_imagenes); }
 
 namespace texalon::plataforma {
 
@@ -142,15 +146,19 @@ void ProcesoQt::ErrorFatal(const ErrorEjecucion& error)
     Termina(1);
 }
 
+void RegistraImagenes() { RegistraRecursoImagenes(); }
+
 void InstalaQt()
 {
+    RegistraImagenes();
     static MensajesQt mensajes;
     static FicherosQt ficheros;
     static VentanasQt ventanas;
     static MonitorQt monitor;
     static RegionalQt regional;
     static ProcesoQt proceso;
-    Instala({&mensajes, &ficheros, &ventanas, &monitor, &regional, &proceso});
+    static ImpresorasQt impresoras;
+    Instala({&mensajes, &ficheros, &ventanas, &monitor, &regional, &proceso, &impresoras});
 }
 
 }  // namespace texalon::plataforma

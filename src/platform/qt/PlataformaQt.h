@@ -45,6 +45,10 @@ public:
 // Installs the Qt services for the life of the process.
 void InstalaQt();
 
+// Puts the program's pictures (":/imagenes/...") within reach. They are compiled into the
+// platform; InstalaQt and the printers call this, so any program that uses either has them.
+void RegistraImagenes();
+
 // The classic filter "Descripción|*.VMF|Otra|*.VMC;*.VMF" as Qt's list of name filters. Each
 // pattern is offered in capitals and in small letters, since file names on this system tell
 // the two apart and the program does not.

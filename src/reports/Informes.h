@@ -1,0 +1,54 @@
+// The four reports of the program, each printed on the printer given, from the project state
+// and the texts that the screen shows (the plain records of a cell's results), so that Print
+// and the batch command print the same. `separador` is the machine's decimal separator.
+#pragma once
+
+#include "engine/Calcular.h"
+#include "engine/Caracteristicas.h"
+#include "platform/Impresora.h"
+#include "state/General.h"
+
+#include <string>
+
+namespace texalon {
+
+using plataforma::Impresora;
+
+// The pictures of the frame: the logo of each screen, 2 × 1.
+inline constexpr char kLogoCarac[] = ":/imagenes/logo_caracteristicas.svg";
+inline constexpr char kLogoFlexion[] = ":/imagenes/logo_flexion.svg";
+inline constexpr char kLogoFlexionT[] = ":/imagenes/logo_flexion_t.svg";
+inline constexpr char kLogoConfina[] = ":/imagenes/logo_confinamiento.svg";
+
+// The names offered for the document by a printer that writes files.
+inline constexpr char kDocumentoCarac[] = "caracteristicas";
+inline constexpr char kDocumentoFlexion[] = "informe_flexion";
+inline constexpr char kDocumentoFlexionT[] = "informe_flexion_t";
+inline constexpr char kDocumentoConfina[] = "informe_confinamiento";
+
+// The message of a flexure report for a cell that the calculation refused ("---").
+inline constexpr char kMensajeCeldaRechazada[] =
+    "El tipo de refuerzo y número de capas elegidas no cumple con los requisitos impuestos por el fabricante.";
+
+// The characteristics of the sheet type chosen on the screen (`tipoElegido` 1 to 3, or 0 when
+// no option is set), whose data and design strains are in the state; the stress-strain diagram
+// is the list that the caller has just drawn.
+void InformeCarac(Impresora& impresora, const General& g, GeneralDibujo& d, int tipoElegido, char separador);
+
+// What a flexure report did: printed, or refused for a cell without a result, in which case the
+// caller shows kMensajeCeldaRechazada and nothing reached the printer.
+enum class Impresion { Impreso, CeldaRechazada };
+
+// The flexure reports of the cell whose texts `celda` holds; `veredicto` is the verdict on
+// show (Oculto when the label is hidden).
+Impresion InformeFlexion(Impresora& impresora, General& g, GeneralDibujo& d, const ResultadosCeldaFlexion& celda,
+                         Veredicto veredicto, char separador);
+Impresion InformeFlexionT(Impresora& impresora, General& g, GeneralDibujo& d, const ResultadosCeldaFlexion& celda,
+                          Veredicto veredicto, char separador);
+
+// The confinement report of the cell whose texts `celda` holds; `filaSeccion` is the row of the
+// screen's section list (0 circular, 1 square, 2 rectangular, -1 none), which names the shape.
+void InformeConfina(Impresora& impresora, General& g, GeneralDibujo& d, const ResultadosCeldaConfina& celda,
+                    int filaSeccion, char separador);
+
+}  // namespace texalon
