@@ -1,6 +1,7 @@
 #include "calculo/Calculo.h"
 
 #include "calculo/Diagrama.h"
+#include "calculo/Informe.h"
 #include "calculo/Proyecto.h"
 #include "calculo/SalidaJson.h"
 #include "calculo/SalidaTexto.h"
@@ -27,6 +28,7 @@ struct Orden {
     int tipo = 1;
     int capas = 1;
     std::optional<std::string> carpetaSvg;
+    std::optional<std::string> carpetaInforme;
     std::vector<std::string> ficheros;
     std::string error;  // the usage error, if any
 };
@@ -36,7 +38,8 @@ bool EsOpcion(const std::string& argumento) { return argumento.size() > 1 && arg
 
 bool LlevaValor(const std::string& opcion)
 {
-    return opcion == "--diagrama" || opcion == "--tipo" || opcion == "--capas" || opcion == "--svg";
+    return opcion == "--diagrama" || opcion == "--tipo" || opcion == "--capas" || opcion == "--svg" ||
+           opcion == "--informe";
 }
 
 // A whole number in plain decimal digits from 1 to `maximo`, the whole text of it.
@@ -72,7 +75,7 @@ std::string TomaValor(Orden& orden, const std::string& opcion, const std::string
         orden.capas = *capas;
     } else {
         if (valor.empty()) return "falta el valor de la opción «" + opcion + "».";
-        orden.carpetaSvg = valor;
+        (opcion == "--svg" ? orden.carpetaSvg : orden.carpetaInforme) = valor;
     }
     return {};
 }
@@ -115,6 +118,27 @@ void EscribeErrorDeUso(const std::string& error, std::ostream& errores)
     errores << kPrograma << ": " << error << '\n' << "Pruebe «" << kPrograma << " --help» para más información.\n";
 }
 
+// CARPETA/<the file's name without its extension>.pdf
+std::string FicheroInforme(const std::string& carpeta, const std::string& fichero)
+{
+    return (std::filesystem::path(carpeta) / (std::filesystem::path(fichero).stem().string() + ".pdf")).string();
+}
+
+// The report of a calculated file, as Print makes it for the cell of --tipo and --capas. The
+// folder is made when it is missing.
+void GuardaInforme(CalculoFichero& calculo, const Orden& orden, char separador, const ImpresoraPdf& pdf)
+{
+    if (!orden.carpetaInforme || !calculo.Correcto()) return;
+    const std::string destino = FicheroInforme(*orden.carpetaInforme, calculo.fichero);
+    std::error_code sinExcepcion;
+    std::filesystem::create_directories(*orden.carpetaInforme, sinExcepcion);
+    const auto imprime = [&](plataforma::Impresora& impresora) {
+        ImprimeInforme(calculo, impresora, orden.tipo, orden.capas, separador);
+    };
+    if (!pdf || !pdf(destino, imprime))
+        calculo.errores.push_back("no se ha podido escribir el informe en «" + destino + "».");
+}
+
 // CARPETA/<the file's name without its extension>-<the diagram's name>.svg
 std::string FicheroSvg(const std::string& carpeta, const std::string& fichero, Diagrama diagrama)
 {
@@ -144,11 +168,12 @@ std::optional<ListaDiagrama> DiagramaDelFichero(CalculoFichero& calculo, const O
 }
 
 // The results of one file, or its messages; the answer says whether it succeeded.
-bool ProcesaFichero(const std::string& fichero, const Orden& orden, char separador, const EscritorSvg& escritorSvg,
+bool ProcesaFichero(const std::string& fichero, const Orden& orden, char separador, const Dispositivos& dispositivos,
                     bool& primerBloque, std::ostream& salida, std::ostream& errores)
 {
     CalculoFichero calculo = CalculaFichero(fichero);
-    const std::optional<ListaDiagrama> lista = DiagramaDelFichero(calculo, orden, separador, escritorSvg);
+    const std::optional<ListaDiagrama> lista = DiagramaDelFichero(calculo, orden, separador, dispositivos.svg);
+    GuardaInforme(calculo, orden, separador, dispositivos.pdf);
     for (const std::string& mensaje : calculo.errores)
         errores << fichero << ": " << mensaje << '\n';
     if (orden.json) {
@@ -165,14 +190,14 @@ bool ProcesaFichero(const std::string& fichero, const Orden& orden, char separad
     return calculo.Correcto();
 }
 
-int ProcesaFicheros(const Orden& orden, char separador, const EscritorSvg& escritorSvg, std::ostream& salida,
+int ProcesaFicheros(const Orden& orden, char separador, const Dispositivos& dispositivos, std::ostream& salida,
                     std::ostream& errores)
 {
     bool todos = true;
     bool primerBloque = true;
     // A failure stops nothing: the next file goes on.
     for (const std::string& fichero : orden.ficheros)
-        todos = ProcesaFichero(fichero, orden, separador, escritorSvg, primerBloque, salida, errores) && todos;
+        todos = ProcesaFichero(fichero, orden, separador, dispositivos, primerBloque, salida, errores) && todos;
     return todos ? kSalidaCorrecta : kSalidaConFallos;
 }
 
@@ -183,6 +208,7 @@ std::string TextoAyuda()
     return "Uso: texalon-calculo [--json] FICHERO...\n"
            "  o: texalon-calculo [--json] --diagrama NOMBRE [--tipo N] [--capas N]\n"
            "                     [--svg CARPETA] FICHERO...\n"
+           "  o: texalon-calculo --informe CARPETA [--tipo N] [--capas N] FICHERO...\n"
            "\n"
            "Calcula cada proyecto TEXALON guardado como lo hace el botón Calcular de su\n"
            "pantalla y escribe sus resultados en la salida estándar. La extensión del nombre\n"
@@ -219,10 +245,18 @@ std::string TextoAyuda()
            "              Los números de «LISTA» van como los demás del JSON; los de\n"
            "              «TEXTOS» llevan el separador decimal del sistema, como en la\n"
            "              pantalla.\n"
-           "  --tipo N    el tipo de refuerzo de tension y de pivotes, de 1 a 3 (1 TEXALON L,\n"
-           "              2 TEXALON H, 3 TEXALON X); 1 si no se da.\n"
-           "  --capas N   el número de capas de pivotes, de 1 a 5; 1 si no se da. El\n"
-           "              diagrama lee los textos que la pantalla muestra para esa celda.\n"
+           "  --informe CARPETA\n"
+           "              escribe el informe de cada fichero en CARPETA/<nombre del fichero\n"
+           "              sin extensión>.pdf, el mismo que imprime la orden Imprimir de su\n"
+           "              pantalla tras Calcular, para la celda de --tipo y --capas (la que\n"
+           "              Calcular muestra si no se dan). Crea la carpeta si no existe. Si la\n"
+           "              celda no tiene resultado («---»), el fichero falla con el mensaje\n"
+           "              del informe y no se escribe nada. No necesita pantalla gráfica.\n"
+           "  --tipo N    el tipo de refuerzo de tension, de pivotes y del informe, de 1 a 3\n"
+           "              (1 TEXALON L, 2 TEXALON H, 3 TEXALON X); 1 si no se da.\n"
+           "  --capas N   el número de capas de pivotes y del informe, de 1 a 5; 1 si no se\n"
+           "              da. El diagrama y el informe leen los textos que la pantalla\n"
+           "              muestra para esa celda.\n"
            "  --svg CARPETA\n"
            "              escribe el diagrama de cada fichero en\n"
            "              CARPETA/<nombre del fichero sin extensión>-NOMBRE.svg, tal como se\n"
@@ -239,7 +273,8 @@ std::string TextoAyuda()
            "con el fichero siguiente. También falla un fichero cuyo cálculo se detiene por\n"
            "una predeformación superior al 2 por mil, cuyo proyecto no tiene el diagrama\n"
            "pedido (area en un pilar, por ejemplo), cuya celda de pivotes no tiene\n"
-           "resultado («---») o cuyo SVG no se puede escribir. Solo --svg escribe ficheros.\n"
+           "resultado («---») o cuyo SVG o informe no se puede escribir. Solo --svg e\n"
+           "--informe escriben ficheros.\n"
            "\n"
            "Estado de salida:\n"
            "  0  se han calculado todos los ficheros, y dibujado sus diagramas.\n"
@@ -249,7 +284,7 @@ std::string TextoAyuda()
 }
 
 int Ejecuta(const std::vector<std::string>& argumentos, char separador, std::ostream& salida, std::ostream& errores,
-            const EscritorSvg& escritorSvg)
+            const Dispositivos& dispositivos)
 {
     const Orden orden = Interpreta(argumentos);
     if (!orden.error.empty()) {
@@ -260,7 +295,7 @@ int Ejecuta(const std::vector<std::string>& argumentos, char separador, std::ost
         salida << TextoAyuda();
         return kSalidaCorrecta;
     }
-    return ProcesaFicheros(orden, separador, escritorSvg, salida, errores);
+    return ProcesaFicheros(orden, separador, dispositivos, salida, errores);
 }
 
 char SeparadorDecimal(const char* separadorDelSistema)

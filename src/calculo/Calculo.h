@@ -4,6 +4,7 @@
 #pragma once
 
 #include "diagrams/Dibujante.h"
+#include "platform/Impresora.h"
 #include "state/General.h"
 
 #include <functional>
@@ -24,15 +25,27 @@ constexpr int kSalidaErrorDeUso = 2;  // no file, or an option the command does 
 using EscritorSvg =
     std::function<bool(GeneralDibujo& d, Pantalla pantalla, Entero isotropico, const std::string& fichero)>;
 
+// Runs `imprime` on a printer that writes the PDF file `fichero` with no dialog; false when no
+// such printer can be had.
+using ImpresoraPdf =
+    std::function<bool(const std::string& fichero, const std::function<void(plataforma::Impresora&)>& imprime)>;
+
+// What the command draws and prints on: both belong to the program around it, which brings the
+// windowing toolkit. Without them, SVG files and reports cannot be written.
+struct Dispositivos {
+    EscritorSvg svg;
+    ImpresoraPdf pdf;
+};
+
 // The usage text of --help.
 std::string TextoAyuda();
 
 // Runs the command on its arguments, the program name left out, and returns the exit status.
 // Results go to `salida` and messages to `errores`; `separador` is the decimal separator of
-// the text results and of the diagrams' texts (the JSON numbers always carry the period). The
-// diagrams of --svg go through `escritorSvg`; without one, they cannot be written.
+// the text results, of the diagrams' and of the reports' texts (the JSON numbers always carry
+// the period). The diagrams of --svg and the reports of --informe go through `dispositivos`.
 int Ejecuta(const std::vector<std::string>& argumentos, char separador, std::ostream& salida, std::ostream& errores,
-            const EscritorSvg& escritorSvg = {});
+            const Dispositivos& dispositivos = {});
 
 // The decimal separator of the results from the machine's one: ',' for a comma and '.' for
 // anything else, a missing one included.

@@ -1,6 +1,7 @@
 // texalon-calculo: calculates TEXALON project files from the command line.
 #include "calculo/Calculo.h"
 #include "diagrams/qt/Lienzo.h"
+#include "platform/qt/ImpresoraQt.h"
 
 #include <QApplication>
 #include <QMessageLogContext>
@@ -8,6 +9,7 @@
 #include <QtGlobal>
 
 #include <clocale>
+#include <functional>
 #include <iostream>
 #include <memory>
 #include <string>
@@ -34,9 +36,9 @@ void MensajeDelToolkit(QtMsgType tipo, const QMessageLogContext& contexto, const
     std::cerr << qPrintable(qFormatLogMessage(tipo, contexto, texto)) << std::endl;
 }
 
-// The windowing toolkit, started only for the first SVG file: it measures the texts as the
-// screen does. The files need no display, and so the offscreen platform serves whenever none
-// is asked for.
+// The windowing toolkit, started only for the first SVG file or report: it measures the texts as
+// the screen and the printer do. The files need no display, and so the offscreen platform
+// serves whenever none is asked for.
 class Aplicacion {
 public:
     void Arranca()
@@ -65,11 +67,20 @@ int main(int argc, char* argv[])
     const std::vector<std::string> argumentos(argc > 0 ? argv + 1 : argv, argv + argc);
     const char separador = SeparadorDelSistema();
     Aplicacion aplicacion;
-    const texalon::calculo::EscritorSvg escritorSvg = [&aplicacion](
-                                                          texalon::GeneralDibujo& d, texalon::Pantalla pantalla,
-                                                          texalon::Entero isotropico, const std::string& fichero) {
+    texalon::calculo::Dispositivos dispositivos;
+    dispositivos.svg = [&aplicacion](texalon::GeneralDibujo& d, texalon::Pantalla pantalla, texalon::Entero isotropico,
+                                     const std::string& fichero) {
         aplicacion.Arranca();
         return texalon::EscribeSvg(d, pantalla, isotropico, QString::fromStdString(fichero));
     };
-    return texalon::calculo::Ejecuta(argumentos, separador, std::cout, std::cerr, escritorSvg);
+    dispositivos.pdf = [&aplicacion](const std::string& fichero,
+                                     const std::function<void(texalon::plataforma::Impresora&)>& imprime) {
+        aplicacion.Arranca();
+        const std::unique_ptr<texalon::plataforma::ImpresoraQt> impresora =
+            texalon::plataforma::ImpresoraQt::PdfEn(QString::fromStdString(fichero));
+        if (!impresora) return false;
+        imprime(*impresora);
+        return true;
+    };
+    return texalon::calculo::Ejecuta(argumentos, separador, std::cout, std::cerr, dispositivos);
 }

@@ -59,12 +59,12 @@ std::string DirectorioTemporal::Escribe(const std::string& nombre, std::string_v
 std::string DirectorioTemporal::Fichero(const std::string& nombre) const { return (ruta_ / nombre).string(); }
 
 Ejecucion EjecutaCalculo(const std::vector<std::string>& argumentos, char separador,
-                         const calculo::EscritorSvg& escritorSvg)
+                         const calculo::Dispositivos& dispositivos)
 {
     std::ostringstream salida;
     std::ostringstream errores;
     Ejecucion ejecucion;
-    ejecucion.estado = calculo::Ejecuta(argumentos, separador, salida, errores, escritorSvg);
+    ejecucion.estado = calculo::Ejecuta(argumentos, separador, salida, errores, dispositivos);
     ejecucion.salida = salida.str();
     ejecucion.errores = errores.str();
     return ejecucion;

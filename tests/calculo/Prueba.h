@@ -49,9 +49,9 @@ struct Ejecucion {
 };
 
 // Runs the command through its library, as main does, with the given decimal separator and
-// the given writer of SVG files.
+// the given writer of SVG files and printer of reports.
 Ejecucion EjecutaCalculo(const std::vector<std::string>& argumentos, char separador = ',',
-                         const calculo::EscritorSvg& escritorSvg = {});
+                         const calculo::Dispositivos& dispositivos = {});
 
 // The text with every occurrence of `buscado` replaced.
 std::string Sustituye(std::string texto, std::string_view buscado, std::string_view nuevo);

@@ -142,8 +142,8 @@ TEST(OrdenDiagrama, LaAyudaDiceLaListaElSvgYLosErrores)
     EXPECT_TRUE(Contiene(ayuda, "DiagramaMomentoCapasT"));
     EXPECT_TRUE(Contiene(ayuda, "«NLISTA», «LISTA»"));
     EXPECT_TRUE(Contiene(ayuda, "«TEXTOS» llevan el separador decimal del sistema"));
-    EXPECT_TRUE(Contiene(ayuda, "de 1 a 3 (1 TEXALON L,\n              2 TEXALON H, 3 TEXALON X); 1 si no se da."));
-    EXPECT_TRUE(Contiene(ayuda, "de 1 a 5; 1 si no se da."));
+    EXPECT_TRUE(Contiene(ayuda, "de 1 a 3\n              (1 TEXALON L, 2 TEXALON H, 3 TEXALON X); 1 si no se da."));
+    EXPECT_TRUE(Contiene(ayuda, "de 1 a 5; 1 si no se\n              da."));
     EXPECT_TRUE(Contiene(ayuda, "CARPETA/<nombre del fichero sin extensión>-NOMBRE.svg"));
     EXPECT_TRUE(Contiene(ayuda, "no necesita pantalla gráfica"));
     EXPECT_TRUE(Contiene(ayuda, "predeformación superior al 2 por mil"));

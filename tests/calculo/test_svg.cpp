@@ -27,9 +27,11 @@ class EscritorDePrueba {
 public:
     explicit EscritorDePrueba(bool escribe = true) : escribe_(escribe) {}
 
-    calculo::EscritorSvg Escritor()
+    // The command's devices with this writer of SVG files and no printer.
+    calculo::Dispositivos Dispositivos()
     {
-        return [this](GeneralDibujo& d, Pantalla pantalla, Entero isotropico, const std::string& fichero) {
+        calculo::Dispositivos dispositivos;
+        dispositivos.svg = [this](GeneralDibujo& d, Pantalla pantalla, Entero isotropico, const std::string& fichero) {
             Llamada llamada{pantalla, isotropico, fichero, d.NLISTA, {}};
             for (int i = 1; i <= d.NLISTA; ++i)
                 llamada.textos.push_back(d.TEXTOS(i));
@@ -38,6 +40,7 @@ public:
             std::ofstream(fichero) << "<svg/>";
             return true;
         };
+        return dispositivos;
     }
 
     std::vector<Llamada> llamadas;
@@ -54,7 +57,7 @@ TEST(SvgCalculo, CadaFicheroASuNombreConElDelDiagrama)
     const std::string carpeta = directorio.Fichero("dibujos");
     EscritorDePrueba escritor;
     const Ejecucion ejecucion =
-        EjecutaCalculo({"--diagrama", "capas", "--svg", carpeta, viga, vigaT}, ',', escritor.Escritor());
+        EjecutaCalculo({"--diagrama", "capas", "--svg", carpeta, viga, vigaT}, ',', escritor.Dispositivos());
     EXPECT_EQ(ejecucion.estado, 0) << ejecucion.errores;
     EXPECT_EQ(ejecucion.errores, "");
     ASSERT_EQ(escritor.llamadas.size(), 2U);
@@ -76,7 +79,7 @@ TEST(SvgCalculo, LasSeccionesConservanSusProporciones)
     const std::string pilar = directorio.Escribe("pilar.vmc", kConfinamiento);
     EscritorDePrueba escritor;
     const Ejecucion ejecucion = EjecutaCalculo(
-        {"--diagrama", "seccion", "--svg", directorio.Ruta().string(), viga, vigaT, pilar}, ',', escritor.Escritor());
+        {"--diagrama", "seccion", "--svg", directorio.Ruta().string(), viga, vigaT, pilar}, ',', escritor.Dispositivos());
     EXPECT_EQ(ejecucion.estado, 0) << ejecucion.errores;
     ASSERT_EQ(escritor.llamadas.size(), 3U);
     EXPECT_EQ(escritor.llamadas[0].pantalla, Pantalla::Flexion);
@@ -93,7 +96,7 @@ TEST(SvgCalculo, ElDiagramaDeTensionVaEnLaPantallaDeCaracteristicas)
     const std::string pilar = directorio.Escribe("pilar.vmc", kConfinamiento);
     EscritorDePrueba escritor;
     const Ejecucion ejecucion =
-        EjecutaCalculo({"--diagrama", "tension", "--svg", directorio.Ruta().string(), pilar}, ',', escritor.Escritor());
+        EjecutaCalculo({"--diagrama", "tension", "--svg", directorio.Ruta().string(), pilar}, ',', escritor.Dispositivos());
     EXPECT_EQ(ejecucion.estado, 0) << ejecucion.errores;
     ASSERT_EQ(escritor.llamadas.size(), 1U);
     EXPECT_EQ(escritor.llamadas[0].pantalla, Pantalla::Carac);
@@ -107,7 +110,7 @@ TEST(SvgCalculo, ConfinamientoYPivotesConSuPantalla)
     const std::string viga = directorio.Escribe("viga.vmf", kFlexionRectangular);
     EscritorDePrueba confina;
     EXPECT_EQ(EjecutaCalculo({"--diagrama", "confinamiento", "--svg", directorio.Ruta().string(), pilar}, ',',
-                             confina.Escritor())
+                             confina.Dispositivos())
                   .estado,
               0);
     ASSERT_EQ(confina.llamadas.size(), 1U);
@@ -115,7 +118,7 @@ TEST(SvgCalculo, ConfinamientoYPivotesConSuPantalla)
     EXPECT_EQ(confina.llamadas[0].isotropico, 0);
     EscritorDePrueba pivotes;
     EXPECT_EQ(
-        EjecutaCalculo({"--diagrama", "pivotes", "--svg", directorio.Ruta().string(), viga}, ',', pivotes.Escritor())
+        EjecutaCalculo({"--diagrama", "pivotes", "--svg", directorio.Ruta().string(), viga}, ',', pivotes.Dispositivos())
             .estado,
         0);
     ASSERT_EQ(pivotes.llamadas.size(), 1U);
@@ -128,7 +131,7 @@ TEST(SvgCalculo, ElNombreEsElDelFicheroSinSuExtension)
     DirectorioTemporal directorio;
     const std::string viga = directorio.Escribe("mi.viga.VMF", kFlexionRectangular);
     EscritorDePrueba escritor;
-    EjecutaCalculo({"--diagrama", "area", "--svg", directorio.Ruta().string(), viga}, ',', escritor.Escritor());
+    EjecutaCalculo({"--diagrama", "area", "--svg", directorio.Ruta().string(), viga}, ',', escritor.Dispositivos());
     ASSERT_EQ(escritor.llamadas.size(), 1U);
     EXPECT_EQ(escritor.llamadas[0].fichero, directorio.Fichero("mi.viga-area.svg"));
 }
@@ -139,7 +142,7 @@ TEST(SvgCalculo, ElSvgRecibeLaListaDelJson)
     const std::string viga = directorio.Escribe("viga.vmf", kFlexionRectangular);
     EscritorDePrueba escritor;
     const Ejecucion ejecucion = EjecutaCalculo(
-        {"--json", "--diagrama", "area", "--svg", directorio.Ruta().string(), viga}, '.', escritor.Escritor());
+        {"--json", "--diagrama", "area", "--svg", directorio.Ruta().string(), viga}, '.', escritor.Dispositivos());
     EXPECT_EQ(ejecucion.estado, 0);
     ASSERT_EQ(escritor.llamadas.size(), 1U);
     const ValorJson lista = LeeJson(ejecucion.salida)["lista"];
@@ -155,7 +158,7 @@ TEST(SvgCalculo, SinSvgNoSeEscribeNada)
     DirectorioTemporal directorio;
     const std::string viga = directorio.Escribe("viga.vmf", kFlexionRectangular);
     EscritorDePrueba escritor;
-    EXPECT_EQ(EjecutaCalculo({"--json", "--diagrama", "area", viga}, ',', escritor.Escritor()).estado, 0);
+    EXPECT_EQ(EjecutaCalculo({"--json", "--diagrama", "area", viga}, ',', escritor.Dispositivos()).estado, 0);
     EXPECT_TRUE(escritor.llamadas.empty());
 }
 
@@ -167,7 +170,7 @@ TEST(SvgCalculo, UnFicheroQueFallaNoSeEscribe)
     EscritorDePrueba escritor;
     const Ejecucion ejecucion =
         EjecutaCalculo({"--diagrama", "area", "--svg", directorio.Ruta().string(), pilar, "ausente.vmf", viga}, ',',
-                       escritor.Escritor());
+                       escritor.Dispositivos());
     EXPECT_EQ(ejecucion.estado, 1);
     ASSERT_EQ(escritor.llamadas.size(), 1U);
     EXPECT_EQ(escritor.llamadas[0].fichero, directorio.Fichero("viga-area.svg"));
@@ -180,7 +183,7 @@ TEST(SvgCalculo, UnSvgQueNoSePuedeEscribirEsUnFallo)
     const std::string vigaT = directorio.Escribe("viga_t.vmf", kFlexionT);
     EscritorDePrueba escritor(false);
     const Ejecucion ejecucion = EjecutaCalculo(
-        {"--json", "--diagrama", "capas", "--svg", directorio.Ruta().string(), viga, vigaT}, ',', escritor.Escritor());
+        {"--json", "--diagrama", "capas", "--svg", directorio.Ruta().string(), viga, vigaT}, ',', escritor.Dispositivos());
     EXPECT_EQ(ejecucion.estado, 1);
     // Both files were tried: the first failure stops nothing.
     ASSERT_EQ(escritor.llamadas.size(), 2U);

@@ -1,0 +1,16 @@
+// The reports of the batch command: after a file is calculated, the report that Print makes on
+// its screen, for the cell that the command line chooses, on the printer given.
+#pragma once
+
+#include "calculo/Proyecto.h"
+#include "platform/Impresora.h"
+
+namespace texalon::calculo {
+
+// Prints the report of a calculated file for the cell (tipo, capas), as Print prints it on the
+// file's screen after a Calculate with that cell chosen. A cell that the report refuses ("---")
+// leaves the report's own message in the file's errors and nothing reaches the printer; a
+// run-time error of the report leaves its message too. Only for a file that succeeded.
+void ImprimeInforme(CalculoFichero& calculo, plataforma::Impresora& impresora, int tipo, int capas, char separador);
+
+}  // namespace texalon::calculo

@@ -1,0 +1,188 @@
+// --informe through the library: the report of each file on the recording printer, exactly as
+// Print makes it for the chosen cell, which file it goes to, and the refused cell. The printer
+// with Qt, which writes the PDF, is the program's and is run by the command's own tests.
+#include "Prueba.h"
+
+#include "calculo/Calculo.h"
+#include "engine/Calcular.h"
+#include "engine/Caracteristicas.h"
+#include "platform/dobles/ImpresoraDoble.h"
+#include "reports/Informes.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <filesystem>
+#include <string>
+#include <vector>
+
+namespace texalon::prueba {
+namespace {
+
+using plataforma::ImpresoraDoble;
+using plataforma::Operacion;
+
+// A printer for each report asked for, kept with the file it would write.
+class ImpresorasDePrueba {
+public:
+    explicit ImpresorasDePrueba(bool disponibles = true) : disponibles_(disponibles) {}
+
+    calculo::Dispositivos Dispositivos()
+    {
+        calculo::Dispositivos dispositivos;
+        dispositivos.pdf = [this](const std::string& fichero,
+                                  const std::function<void(plataforma::Impresora&)>& imprime) {
+            ficheros.push_back(fichero);
+            if (!disponibles_) return false;
+            impresoras.emplace_back();
+            imprime(impresoras.back());
+            return true;
+        };
+        return dispositivos;
+    }
+
+    std::vector<std::string> ficheros;
+    std::vector<ImpresoraDoble> impresoras;
+
+private:
+    bool disponibles_;
+};
+
+bool Imprimio(const ImpresoraDoble& impresora, const std::string& texto)
+{
+    return std::any_of(impresora.operaciones.begin(), impresora.operaciones.end(),
+                       [&texto](const Operacion& op) { return op.nombre == "Print" && op.texto == texto; });
+}
+
+int Cuenta(const ImpresoraDoble& impresora, const std::string& nombre)
+{
+    return static_cast<int>(std::count_if(impresora.operaciones.begin(), impresora.operaciones.end(),
+                                          [&nombre](const Operacion& op) { return op.nombre == nombre; }));
+}
+
+TEST(InformeCalculo, CadaFicheroEnLaCarpetaConSuNombre)
+{
+    DirectorioTemporal directorio;
+    const std::string viga = directorio.Escribe("viga.vmf", kFlexionRectangularMd250);
+    const std::string pilar = directorio.Escribe("pilar.VMC", kConfinamiento);
+    const std::string carpeta = (directorio.Ruta() / "informes").string();
+    ImpresorasDePrueba impresoras;
+    const Ejecucion ejecucion = EjecutaCalculo({"--informe", carpeta, viga, pilar}, ',', impresoras.Dispositivos());
+    EXPECT_EQ(ejecucion.estado, 0);
+    EXPECT_EQ(ejecucion.errores, "");
+    ASSERT_EQ(impresoras.ficheros.size(), 2u);
+    EXPECT_EQ(impresoras.ficheros[0], (std::filesystem::path(carpeta) / "viga.pdf").string());
+    EXPECT_EQ(impresoras.ficheros[1], (std::filesystem::path(carpeta) / "pilar.pdf").string());
+    // The folder is made when it is missing.
+    EXPECT_TRUE(std::filesystem::is_directory(carpeta));
+    ASSERT_EQ(impresoras.impresoras.size(), 2u);
+    EXPECT_TRUE(Imprimio(impresoras.impresoras[0], "REFUERZO A FLEXION EN SECCIONES RECTANGULARES"));
+    EXPECT_TRUE(Imprimio(impresoras.impresoras[1], "REFUERZO A CONFINAMIENTO"));
+    // The flexure report has its two pages; the document ends once each.
+    EXPECT_EQ(Cuenta(impresoras.impresoras[0], "NewPage"), 1);
+    EXPECT_EQ(Cuenta(impresoras.impresoras[0], "EndDoc"), 1);
+    EXPECT_EQ(Cuenta(impresoras.impresoras[1], "EndDoc"), 1);
+}
+
+TEST(InformeCalculo, EsElInformeDeImprimirParaLaCeldaElegida)
+{
+    DirectorioTemporal directorio;
+    const std::string viga = directorio.Escribe("viga.vmf", kFlexionRectangularMd250);
+    ImpresorasDePrueba impresoras;
+    const Ejecucion ejecucion = EjecutaCalculo(
+        {"--informe", directorio.Ruta().string(), "--tipo", "2", "--capas", "4", viga}, '.', impresoras.Dispositivos());
+    ASSERT_EQ(ejecucion.estado, 0);
+    ASSERT_EQ(impresoras.impresoras.size(), 1u);
+
+    // The same report printed by hand on the same project, calculated as the screen does.
+    General g;
+    ValoresIniciales(g);
+    g.MD = 250.0;
+    const ResultadoCalculo calculo = CalculaFlexion(g, 1, [](General&) {});
+    GeneralDibujo d;
+    ImpresoraDoble esperada;
+    ASSERT_EQ(InformeFlexion(esperada, g, d, ResultadosFlexion(g, 2, 4, '.'), calculo.veredicto, '.'),
+              Impresion::Impreso);
+    EXPECT_EQ(impresoras.impresoras[0].operaciones, esperada.operaciones);
+    EXPECT_TRUE(Imprimio(impresoras.impresoras[0], "Refuerzo tipo TEXALON H - Núm. capas: 4"));
+}
+
+TEST(InformeCalculo, LaSeccionEnTTieneSuInforme)
+{
+    DirectorioTemporal directorio;
+    const std::string vigaT = directorio.Escribe("viga_t.vmf", kFlexionT);
+    ImpresorasDePrueba impresoras;
+    EXPECT_EQ(EjecutaCalculo({"--informe", directorio.Ruta().string(), vigaT}, ',', impresoras.Dispositivos()).estado, 0);
+    ASSERT_EQ(impresoras.impresoras.size(), 1u);
+    EXPECT_TRUE(Imprimio(impresoras.impresoras[0], "REFUERZO A FLEXION EN SECCIONES EN T"));
+}
+
+TEST(InformeCalculo, SinRefuerzoNecesarioUnaPaginaConLaFrase)
+{
+    // MD 0 lies below the unreinforced moment: the report of the verdict, one page.
+    DirectorioTemporal directorio;
+    const std::string viga = directorio.Escribe("viga.vmf", kFlexionRectangular);
+    ImpresorasDePrueba impresoras;
+    EXPECT_EQ(EjecutaCalculo({"--informe", directorio.Ruta().string(), viga}, ',', impresoras.Dispositivos()).estado, 0);
+    ASSERT_EQ(impresoras.impresoras.size(), 1u);
+    EXPECT_TRUE(Imprimio(impresoras.impresoras[0], " NO ES NECESARIO REFORZAR LA SECCION "));
+    EXPECT_EQ(Cuenta(impresoras.impresoras[0], "NewPage"), 0);
+}
+
+TEST(InformeCalculo, UnaCeldaSinResultadoDaElMensajeDelInformeYNadaImpreso)
+{
+    DirectorioTemporal directorio;
+    const std::string viga = directorio.Escribe("viga.vmf", kFlexionRectangularMd250);
+    const std::string pilar = directorio.Escribe("pilar.vmc", kConfinamiento);
+    ImpresorasDePrueba impresoras;
+    // TEXALON X gains nothing from the third layer on.
+    const Ejecucion ejecucion = EjecutaCalculo(
+        {"--informe", directorio.Ruta().string(), "--tipo", "3", "--capas", "3", viga, pilar}, ',',
+        impresoras.Dispositivos());
+    EXPECT_EQ(ejecucion.estado, 1);
+    EXPECT_EQ(ejecucion.errores, viga + ": " + std::string(kMensajeCeldaRechazada) + "\n");
+    ASSERT_EQ(impresoras.impresoras.size(), 2u);
+    EXPECT_TRUE(impresoras.impresoras[0].operaciones.empty());
+    // The next file goes on: a column's cells always have a result.
+    EXPECT_TRUE(Imprimio(impresoras.impresoras[1], "REFUERZO A CONFINAMIENTO"));
+}
+
+TEST(InformeCalculo, SinImpresoraElFicheroFalla)
+{
+    DirectorioTemporal directorio;
+    const std::string viga = directorio.Escribe("viga.vmf", kFlexionRectangularMd250);
+    ImpresorasDePrueba impresoras(false);
+    const Ejecucion ejecucion =
+        EjecutaCalculo({"--informe", directorio.Ruta().string(), viga}, ',', impresoras.Dispositivos());
+    EXPECT_EQ(ejecucion.estado, 1);
+    const std::string destino = (directorio.Ruta() / "viga.pdf").string();
+    EXPECT_EQ(ejecucion.errores, viga + ": no se ha podido escribir el informe en «" + destino + "».\n");
+}
+
+TEST(InformeCalculo, UnFicheroQueFallaNoTieneInforme)
+{
+    DirectorioTemporal directorio;
+    ImpresorasDePrueba impresoras;
+    const Ejecucion ejecucion = EjecutaCalculo(
+        {"--informe", directorio.Ruta().string(), directorio.Fichero("no_existe.vmf")}, ',', impresoras.Dispositivos());
+    EXPECT_EQ(ejecucion.estado, 1);
+    EXPECT_TRUE(impresoras.ficheros.empty());
+}
+
+TEST(InformeCalculo, LaCarpetaVaciaEsUnErrorDeUso)
+{
+    const Ejecucion ejecucion = EjecutaCalculo({"--informe", "", "viga.vmf"});
+    EXPECT_EQ(ejecucion.estado, 2);
+    EXPECT_NE(ejecucion.errores.find("falta el valor de la opción «--informe»."), std::string::npos);
+    EXPECT_EQ(EjecutaCalculo({"viga.vmf", "--informe"}).estado, 2);
+}
+
+TEST(InformeCalculo, LaAyudaLoCuenta)
+{
+    const std::string ayuda = EjecutaCalculo({"--help"}).salida;
+    for (const char* texto : {"--informe CARPETA", "<nombre del fichero", "sin extensión>.pdf", "--tipo", "--capas"})
+        EXPECT_NE(ayuda.find(texto), std::string::npos) << texto;
+}
+
+}  // namespace
+}  // namespace texalon::prueba
