@@ -1,6 +1,7 @@
 #include "screens/FmCarac.h"
 
 #include "diagrams/Grafico.h"
+#include "reports/Informes.h"
 #include "diagrams/qt/Lienzo.h"
 #include "engine/Caracteristicas.h"
 #include "platform/Plataforma.h"
@@ -171,6 +172,13 @@ void FmCarac::CargaCaracteristicas()
 void FmCarac::DiagramaTension(Entero tipo)
 {
     texalon::DiagramaTension(Estado(), EstadoDibujo(), tipo, plataforma::ServicioRegional().SeparadorDecimal());
+}
+
+void FmCarac::Imprime(plataforma::Impresora& impresora)
+{
+    const int tipo = TipoElegido();
+    DiagramaTension(static_cast<Entero>(tipo));
+    InformeCarac(impresora, Estado(), EstadoDibujo(), tipo, plataforma::ServicioRegional().SeparadorDecimal());
 }
 
 void FmCarac::closeEvent(QCloseEvent* evento)

@@ -3,6 +3,7 @@
 // is the choice of the type, and it has no file.
 #pragma once
 
+#include "platform/Impresora.h"
 #include "screens/Formulario.h"
 
 class QRadioButton;
@@ -25,6 +26,9 @@ public:
     int TipoElegido() const;
     // The stress-strain diagram of the sheet type `tipo`, whose design strains are in EPSD.
     void DiagramaTension(Entero tipo);
+    // The characteristics report of the selected option's type, its diagram drawn first so
+    // that the picture printed is that type's. It needs no Calculate.
+    void Imprime(plataforma::Impresora& impresora);
 
 protected:
     void closeEvent(QCloseEvent* evento) override;

@@ -1,6 +1,7 @@
 #include "screens/FmConfina.h"
 
 #include "diagrams/Grafico.h"
+#include "reports/Informes.h"
 #include "diagrams/qt/Lienzo.h"
 
 #include "files/Copias.h"
@@ -234,8 +235,9 @@ CeldaResultado FmConfina::Celda(int tipo, int capas) const
 
 void FmConfina::ResultadosConfina(int tipo, int capas)
 {
-    const ResultadosCeldaConfina r =
+    celdaMostrada_ =
         texalon::ResultadosConfina(Estado(), tipo, capas, plataforma::ServicioRegional().SeparadorDecimal());
+    const ResultadosCeldaConfina& r = celdaMostrada_;
     MuestraTipo(r.tipo);
     Muestra({{"TX_WC", &r.WC},
              {"TX_WR", &r.WR},
@@ -250,6 +252,12 @@ void FmConfina::ResultadosConfina(int tipo, int capas)
 void FmConfina::MuestraCelda(int tipo, int capas) { ResultadosConfina(tipo, capas); }
 
 void FmConfina::BajaBandera(General& g) { g.F_CONFINA = false; }
+
+void FmConfina::Imprime(plataforma::Impresora& impresora)
+{
+    InformeConfina(impresora, Estado(), EstadoDibujo(), celdaMostrada_, seccion_->currentIndex(),
+                   plataforma::ServicioRegional().SeparadorDecimal());
+}
 
 void FmConfina::CopiaAlEstado()
 {

@@ -21,6 +21,7 @@ public:
     void CopiaAlEstado() override;
     bool PideFichero(General& g) const override;
     void Graba(General& g) const override;
+    void Imprime(plataforma::Impresora& impresora) override;
 
 protected:
     void Aceptado(const ReglaCampo& regla) override;
@@ -40,6 +41,8 @@ private:
     void EscribeCoeficienteForma();
 
     QComboBox* seccion_ = nullptr;  // CO_SECCION
+    // The texts of the cell that the result fields show: the report reads them.
+    ResultadosCeldaConfina celdaMostrada_;
     // Set while a key is at work on CO_SECCION: the row it picks is a key's change, not a click.
     bool teclaEnCurso_ = false;
 };

@@ -5,6 +5,7 @@
 #include "engine/Calculos.h"
 #include "files/Ficheros.h"
 #include "platform/Plataforma.h"
+#include "reports/Informes.h"
 #include "screens/Entrada.h"
 #include "screens/FmAnclaje.h"
 #include "screens/Proyecto.h"
@@ -246,6 +247,15 @@ void FmFlexion::DiagramaMomentoCapas() { Dibuja(texalon::DiagramaMomentoCapas, t
 void FmFlexion::DiagramaMomentoArea() { Dibuja(texalon::DiagramaMomentoArea, texalon::DiagramaMomentoAreaT); }
 
 void FmFlexion::DibujaSeccion() { Dibuja(texalon::DibujaSeccion, texalon::DibujaSeccionT); }
+
+void FmFlexion::Imprime(plataforma::Impresora& impresora)
+{
+    const char separador = plataforma::ServicioRegional().SeparadorDecimal();
+    const auto informe = seccionT_ ? InformeFlexionT : InformeFlexion;
+    if (informe(impresora, Estado(), EstadoDibujo(), celdaMostrada_, VeredictoMostrado(), separador) ==
+        Impresion::CeldaRechazada)
+        plataforma::MsgBox(QString::fromUtf8(kMensajeCeldaRechazada), plataforma::Estilo::Informacion);
+}
 
 void FmFlexion::BajaBandera(General& g)
 {

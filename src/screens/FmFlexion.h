@@ -23,6 +23,9 @@ public:
     void CopiaAlEstado() override;
     bool PideFichero(General& g) const override;
     void Graba(General& g) const override;
+    // InformeFlexion or InformeFlexionT; a cell refused by the calculation gets the message
+    // and nothing is printed.
+    void Imprime(plataforma::Impresora& impresora) override;
 
 protected:
     void Aceptado(const ReglaCampo& regla) override;

@@ -316,6 +316,7 @@ void FormularioCalculo::TablaResultados()
 
 void FormularioCalculo::MuestraVeredicto(Veredicto veredicto)
 {
+    veredicto_ = veredicto;
     if (veredicto == Veredicto::Oculto) {
         info_->setVisible(false);
         return;

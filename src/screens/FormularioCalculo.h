@@ -9,6 +9,7 @@
 
 #include "engine/Calcular.h"
 #include "engine/Caracteristicas.h"
+#include "platform/Impresora.h"
 #include "screens/Formulario.h"
 #include "screens/ReglasCampo.h"
 
@@ -38,6 +39,10 @@ public:
     virtual bool PideFichero(General& g) const = 0;
     // Writes the project of the state to FICHERO.
     virtual void Graba(General& g) const = 0;
+
+    // The screen's report on the printer, of the cell whose results the screen shows; the
+    // caller has made sure that the results answer for the data (F_CALCULADO).
+    virtual void Imprime(plataforma::Impresora& impresora) = 0;
 
 protected:
     // What tells the calculation screens apart in their common parts.
@@ -114,6 +119,8 @@ protected:
     // Writes each text to its result field.
     void Muestra(const std::vector<std::pair<const char*, const std::string*>>& textos);
     void MuestraTipo(const std::string& texto);
+    // The verdict on show over the picture, Oculto when the label is hidden.
+    Veredicto VeredictoMostrado() const { return veredicto_; }
 
     // ---- The unload.
 
@@ -131,6 +138,7 @@ private:
     void GrabaAlCerrar();
 
     Forma forma_;
+    Veredicto veredicto_ = Veredicto::Oculto;
     QLabel* tipo_ = nullptr;  // LB_TIPO
     QLabel* info_ = nullptr;  // LB_INFO
     // From the unload on, no field is checked: the focus that leaves a closing screen is no

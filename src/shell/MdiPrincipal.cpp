@@ -44,8 +44,8 @@ const EntradaMenu kPrincipal[] = {
     {"mnuPrincipalGuardar", "&Guardar datos", "Ctrl+S", false, &MdiPrincipal::GuardarDesdeMenu},
     {"mnuPrincipalGuardarcomo", "G&uardar datos como...", "", false, &MdiPrincipal::GuardarComo},
     {"mnuPrincipalNada1", nullptr, "", true, nullptr},
-    {"mnuPrincipalImprimir", "&Imprimir", "Ctrl+I", false, nullptr},
-    {"mnuPrincipalConfigurar", "&Configurar impresora", "", true, nullptr},
+    {"mnuPrincipalImprimir", "&Imprimir", "Ctrl+I", false, &MdiPrincipal::Imprimir},
+    {"mnuPrincipalConfigurar", "&Configurar impresora", "", true, &MdiPrincipal::ConfigurarImpresora},
     {"mnuPrincipalNada2", nullptr, "", true, nullptr},
     {"mnuPrincipalSalir", "&Salir", "F7", true, &MdiPrincipal::Salir},
 };
@@ -394,6 +394,7 @@ void MdiPrincipal::TB_BARRA_ButtonClick(const QString& clave)
     CierraPresentacion();
     if (clave == QLatin1String("Abrir")) Abrir(Via::Barra);
     if (clave == QLatin1String("Guardar")) Guardar(Via::Barra);
+    if (clave == QLatin1String("Imprimir")) Imprimir();
     if (clave == QLatin1String("Carac")) Caracteristicas();
     if (clave == QLatin1String("FlexionR")) NuevaFlexion();
     if (clave == QLatin1String("FlexionT")) NuevaFlexionT();

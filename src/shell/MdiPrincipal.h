@@ -73,6 +73,11 @@ public:
     void NuevoConfinamiento();
     void Caracteristicas();
     void AcercaDe();
+    // The report of the open screen on the current printer, under the hourglass: the
+    // characteristics at once, a calculation screen only when its results answer for its data.
+    void Imprimir();
+    // FM_CONFIG_IMPR: the printer of the reports for the rest of the run.
+    void ConfigurarImpresora();
     void Salir();
 
     // The one click handler of the toolbar, told the button's key ("Abrir", "FlexionR"...).
