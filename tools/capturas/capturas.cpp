@@ -1,7 +1,9 @@
 // The screenshots of docs/: the program driven as a user drives it, on a real display, and the
-// whole screen taken after each step. Run tools/capturas/capturas.sh; it starts a virtual
+// whole screen taken after each step; and the report of each screen printed to PDF. Run tools/capturas/capturas.sh; it starts a virtual
 // display with a window manager, so that the pictures show what a user sees.
 #include "comun/Usuario.h"
+#include "platform/Impresora.h"
+#include "platform/Plataforma.h"
 #include "platform/qt/PlataformaQt.h"
 #include "screens/Formulario.h"
 #include "shell/Aplicacion.h"
@@ -11,6 +13,7 @@
 
 #include <QAbstractScrollArea>
 #include <QComboBox>
+#include <QFileInfo>
 #include <QGuiApplication>
 #include <QPixmap>
 #include <QRadioButton>
@@ -23,6 +26,31 @@ namespace texalon {
 namespace {
 
 QString carpeta;
+
+// The save dialog of the PDF printer, answered as the user would: the name it offers, in the
+// folder of the pictures.
+class FicherosDeCaptura final : public plataforma::Ficheros {
+public:
+    explicit FicherosDeCaptura(plataforma::Ficheros& reales) : reales_(reales) {}
+    std::optional<plataforma::FicheroElegido> Abrir(const plataforma::DialogoFichero& dialogo) override
+    {
+        return reales_.Abrir(dialogo);
+    }
+    std::optional<plataforma::FicheroElegido> Guardar(const plataforma::DialogoFichero& dialogo) override
+    {
+        return plataforma::FicheroElegido{carpeta + QStringLiteral("/") + QFileInfo(dialogo.nombre).fileName(), carpeta};
+    }
+
+private:
+    plataforma::Ficheros& reales_;
+};
+
+// The report of the open screen, by the Print command, on the PDF printer.
+void Imprime(MdiPrincipal& p)
+{
+    plataforma::ServicioImpresoras().Elige(plataforma::kImprimirAPdf);
+    p.Imprimir();
+}
 
 void Espera(int ms = 400) { QTest::qWait(ms); }
 
@@ -80,11 +108,15 @@ void Recorre(MdiPrincipal& p)
     Captura("flexion_area");
     Pulsa(p, "CM_DEFORMACIONES");
     Captura("flexion_pivotes");
+    Imprime(p);
 
     Abre(p, &MdiPrincipal::NuevaFlexionT);
     Escribe(p, "TX_MD", "300");
     Pulsa(p, "CM_CALCULAR");
     Captura("flexion_t");
+    Escribe(p, "TX_MD", "250");
+    Pulsa(p, "CM_CALCULAR");
+    Imprime(p);
     Pulsa(p, "CM_SECCION");
     Captura("flexion_t_seccion");
 
@@ -92,6 +124,7 @@ void Recorre(MdiPrincipal& p)
     Escribe(p, "TX_INCR", "1,2");
     Pulsa(p, "CM_CALCULAR");
     Captura("confina_calculado");
+    Imprime(p);
     Pulsa(p, "CM_SECCION");
     Captura("confina_seccion");
 
@@ -111,6 +144,7 @@ void Recorre(MdiPrincipal& p)
     Abre(p, &MdiPrincipal::Caracteristicas);
     prueba::Pulsa(qobject_cast<QRadioButton*>(C(p, "OP_TX")));
     Captura("caracteristicas");
+    Imprime(p);
 }
 
 }  // namespace
@@ -122,6 +156,10 @@ int main(int argc, char** argv)
     texalon::plataforma::InstalaQt();
     texalon::PreparaAplicacion(aplicacion);
     texalon::carpeta = argc > 1 ? QString::fromLocal8Bit(argv[1]) : QStringLiteral(".");
+    texalon::plataforma::Servicios servicios = texalon::plataforma::Instala({});
+    texalon::FicherosDeCaptura ficheros(*servicios.ficheros);
+    servicios.ficheros = &ficheros;
+    texalon::plataforma::Instala(servicios);
     texalon::MdiPrincipal principal;
     principal.show();
     principal.activateWindow();
