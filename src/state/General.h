@@ -23,6 +23,17 @@ constexpr Color ColorRGB(int rojo, int verde, int azul)
     return static_cast<Color>(rojo + 256 * verde + 65536 * azul);
 }
 
+// The three components of a colour, as the screens and the printers take them.
+struct ComponentesRGB {
+    int rojo;
+    int verde;
+    int azul;
+};
+constexpr ComponentesRGB Componentes(Color color)
+{
+    return {color & 0xFF, (color >> 8) & 0xFF, (color >> 16) & 0xFF};
+}
+
 // Defaults of the project fields. New, start-up and the file readers all take them from here.
 namespace defecto {
 constexpr double GC = 1.5;

@@ -149,3 +149,20 @@ TEST(General, BorraDibujoPoneLosSeisContadoresACero)
 
 }  // namespace
 }  // namespace texalon
+
+namespace texalon {
+namespace {
+
+TEST(Componentes, DeshaceElColorDeLasTresComponentes)
+{
+    const ComponentesRGB c = Componentes(ColorRGB(128, 0, 64));
+    EXPECT_EQ(c.rojo, 128);
+    EXPECT_EQ(c.verde, 0);
+    EXPECT_EQ(c.azul, 64);
+    const ComponentesRGB gris = Componentes(ColorRGB(192, 192, 192));
+    EXPECT_EQ(gris.rojo + gris.verde + gris.azul, 3 * 192);
+    EXPECT_EQ(Componentes(0).azul, 0);
+}
+
+}  // namespace
+}  // namespace texalon

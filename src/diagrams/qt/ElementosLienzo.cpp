@@ -1,5 +1,7 @@
 #include "diagrams/qt/ElementosLienzo.h"
 
+#include "state/General.h"
+
 #include <QFontMetricsF>
 #include <QGraphicsEllipseItem>
 #include <QGraphicsLineItem>
@@ -50,9 +52,8 @@ QFont FuenteA(double tamano, bool negrita)
 
 QColor ColorDeLista(double color)
 {
-    const auto valor = static_cast<std::uint32_t>(std::llround(color));
-    return {static_cast<int>(valor & 0xFFU), static_cast<int>((valor >> 8U) & 0xFFU),
-            static_cast<int>((valor >> 16U) & 0xFFU)};
+    const ComponentesRGB c = Componentes(static_cast<Color>(std::llround(color)));
+    return {c.rojo, c.verde, c.azul};
 }
 
 void FijaBorde(QGraphicsLineItem* linea, const QColor& color, int estilo, int grosor)

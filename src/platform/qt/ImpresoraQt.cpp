@@ -86,8 +86,11 @@ QSizeF AreaEnPulgadas(const QPageLayout& pagina)
     return {hoja.width() - margenes.left() - margenes.right(), hoja.height() - margenes.top() - margenes.bottom()};
 }
 
-// red + 256 × green + 65536 × blue
-QColor ColorQt(Color color) { return QColor(color & 0xFF, (color >> 8) & 0xFF, (color >> 16) & 0xFF); }
+QColor ColorQt(Color color)
+{
+    const ComponentesRGB c = Componentes(color);
+    return QColor(c.rojo, c.verde, c.azul);
+}
 
 // The dashes and gaps of a DrawStyle on paper, in centimetres whatever the width of the line,
 // so that a thin line at the printer's resolution still shows its pattern. Empty for a solid
