@@ -5,12 +5,15 @@
 
 namespace texalon {
 
-// Creates the main window and shows it without waiting; its load does the rest.
+// Creates the main window and shows it without waiting; its load does the rest. A project
+// named on the command line (a double click in the file manager) opens at once, as Open would.
 void Main()
 {
     auto* principal = new MdiPrincipal;
     principal->setAttribute(Qt::WA_DeleteOnClose);
     principal->show();
+    const QStringList argumentos = QCoreApplication::arguments();
+    if (principal->Cargada() && argumentos.size() > 1) principal->AbrirFichero(argumentos.at(1));
 }
 
 }  // namespace texalon

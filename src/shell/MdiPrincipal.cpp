@@ -10,11 +10,15 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QDragEnterEvent>
+#include <QDropEvent>
 #include <QKeyEvent>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QMenuBar>
+#include <QMimeData>
 #include <QToolBar>
+#include <QUrl>
 #include <span>
 
 namespace texalon {
@@ -127,6 +131,8 @@ MdiPrincipal::MdiPrincipal(QWidget* padre) : QMainWindow(padre)
     CreaMenu();
     CreaBarra();
     qApp->installEventFilter(this);
+    // A project dropped on the window opens as Open opens it.
+    setAcceptDrops(true);
     resize(kAncho, kAlto);
     Carga();
 }
@@ -421,7 +427,40 @@ void MdiPrincipal::showEvent(QShowEvent* evento)
     // The frame is known once the window is on the screen: 800 by 600 is its outer size.
     QMainWindow::showEvent(evento);
     DevuelveTamano();
+    // The first showing puts the window in the middle of the screen.
+    if (!centrada_) {
+        centrada_ = true;
+        const QSizeF pantalla = plataforma::ServicioMonitor().Tamano();
+        const QSize marco = frameGeometry().size();
+        move(qRound((pantalla.width() - marco.width()) / 2.0), qRound((pantalla.height() - marco.height()) / 2.0));
+    }
     CentraPresentacion();
+}
+
+namespace {
+
+// The first local file of a drag, if it carries one.
+QString FicheroArrastrado(const QMimeData* datos)
+{
+    if (datos == nullptr || !datos->hasUrls()) return {};
+    for (const QUrl& direccion : datos->urls())
+        if (direccion.isLocalFile()) return direccion.toLocalFile();
+    return {};
+}
+
+}  // namespace
+
+void MdiPrincipal::dragEnterEvent(QDragEnterEvent* evento)
+{
+    if (!FicheroArrastrado(evento->mimeData()).isEmpty()) evento->acceptProposedAction();
+}
+
+void MdiPrincipal::dropEvent(QDropEvent* evento)
+{
+    const QString fichero = FicheroArrastrado(evento->mimeData());
+    if (fichero.isEmpty()) return;
+    evento->acceptProposedAction();
+    AbrirFichero(fichero);
 }
 
 void MdiPrincipal::moveEvent(QMoveEvent* evento)

@@ -2,13 +2,13 @@
 // one calculation screen open at a time.
 #pragma once
 
+#include "diagrams/Dibujante.h"
+#include "platform/Plataforma.h"
 #include "shell/FmPresentacion.h"
 #include "state/General.h"
 
 #include <QKeySequence>
 #include <QList>
-#include "diagrams/Dibujante.h"
-
 #include <QMainWindow>
 #include <QPointer>
 #include <functional>
@@ -66,6 +66,9 @@ public:
     void Abrir(Via via);
     void Guardar(Via via);
     void AbrirDesdeMenu() { Abrir(Via::Menu); }
+    // Opens the named project as Open does after its dialog, with the same checks, messages
+    // and screen: the file given on the command line, or dropped on the window.
+    void AbrirFichero(const QString& fichero);
     void GuardarDesdeMenu() { Guardar(Via::Menu); }
     void GuardarComo();
     void NuevaFlexion();
@@ -89,6 +92,8 @@ protected:
     void resizeEvent(QResizeEvent* evento) override;
     void changeEvent(QEvent* evento) override;
     void closeEvent(QCloseEvent* evento) override;
+    void dragEnterEvent(QDragEnterEvent* evento) override;
+    void dropEvent(QDropEvent* evento) override;
     bool eventFilter(QObject* objeto, QEvent* evento) override;
 
 private:
@@ -106,6 +111,7 @@ private:
     // How Open and the saves end: done, or stopped by a Cancel in the file dialog.
     enum class Fin { Completa, Cancelada };
     Fin AbreProyecto();
+    void LeeProyecto(const plataforma::FicheroElegido& elegido);
     Fin GuardaProyecto(bool preguntaSiempre);
     void OrdenDeFichero(Via via, const std::function<Fin()>& orden);
     // The open calculation screen, its flag tested in the given order.
@@ -119,6 +125,7 @@ private:
     QList<QKeySequence> atajos_;
     bool cargada_ = false;
     bool ajustando_ = false;
+    bool centrada_ = false;
 };
 
 // The window name of a calculation screen: "FM_FLEXION", "FM_FLEXIONT", "FM_CONFINA", "FM_CARAC".

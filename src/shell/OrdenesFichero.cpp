@@ -5,6 +5,8 @@
 #include "screens/Proyecto.h"
 #include "shell/MdiPrincipal.h"
 
+#include <QFileInfo>
+
 namespace texalon {
 
 namespace {
@@ -44,12 +46,31 @@ MdiPrincipal::Fin MdiPrincipal::AbreProyecto()
 {
     // The open screen goes before the dialog: cancelling Open leaves no screen open.
     CierraPantallaAbierta();
-    General& g = Estado();
-    g.F_ERROR = false;
+    Estado().F_ERROR = false;
     const auto elegido = plataforma::ServicioFicheros().Abrir({kFiltroAbrir, kFiltroAmbos, QString()});
     if (!elegido) return Fin::Cancelada;
-    g.FICHERO = elegido->fichero.toStdString();
-    g.DIRECTORIO = elegido->directorio.toStdString();
+    LeeProyecto(*elegido);
+    return Fin::Completa;
+}
+
+void MdiPrincipal::AbrirFichero(const QString& fichero)
+{
+    // As Open after its dialog: the splash and the open screen go first.
+    CierraPresentacion();
+    OrdenDeFichero(Via::Barra, [this, fichero] {
+        CierraPantallaAbierta();
+        Estado().F_ERROR = false;
+        const QFileInfo elegido(fichero);
+        LeeProyecto({elegido.absoluteFilePath(), elegido.absolutePath()});
+        return Fin::Completa;
+    });
+}
+
+void MdiPrincipal::LeeProyecto(const plataforma::FicheroElegido& elegido)
+{
+    General& g = Estado();
+    g.FICHERO = elegido.fichero.toStdString();
+    g.DIRECTORIO = elegido.directorio.toStdString();
 
     // The extension decides the reader, not the contents; any other name is ignored in silence.
     switch (ClaseDe(g.FICHERO)) {
@@ -68,12 +89,11 @@ MdiPrincipal::Fin MdiPrincipal::AbreProyecto()
         g.F_ABIERTO = true;
         MuestraPantalla(Pantalla::Confina);
         break;
-    case ClaseFichero::Ninguna: return Fin::Completa;
+    case ClaseFichero::Ninguna: return;
     }
     // The reader has loaded its defaults already; no screen opens.
     if (g.F_ERROR)
         plataforma::MsgBox(QStringLiteral("Los datos almacenados no son correctos."), plataforma::Estilo::Parada);
-    return Fin::Completa;
 }
 
 MdiPrincipal::Fin MdiPrincipal::GuardaProyecto(bool preguntaSiempre)
