@@ -2,6 +2,10 @@
 
 #include "state/Formato.h"
 
+#include <QCoreApplication>
+#include <QDir>
+#include <QFileInfo>
+
 namespace texalon::plataforma {
 
 namespace {
@@ -29,6 +33,9 @@ Monitor& ServicioMonitor() { return Servicio(EnUso().monitor); }
 Regional& ServicioRegional() { return Servicio(EnUso().regional); }
 Proceso& ServicioProceso() { return Servicio(EnUso().proceso); }
 Impresoras& ServicioImpresoras() { return Servicio(EnUso().impresoras); }
+Ayuda& ServicioAyuda() { return Servicio(EnUso().ayuda); }
+Escritorio& ServicioEscritorio() { return Servicio(EnUso().escritorio); }
+Correo& ServicioCorreo() { return Servicio(EnUso().correo); }
 
 Servicios Instala(const Servicios& servicios)
 {
@@ -41,6 +48,15 @@ QString FormatoLocal(double valor, std::string_view patron)
 {
     return QString::fromStdString(Formato(valor, patron, ServicioRegional().SeparadorDecimal()));
 }
+
+QString UbicaDatos(const QString& directorioPrograma)
+{
+    const QString instalados = QDir::cleanPath(directorioPrograma + QStringLiteral("/../share/texalon"));
+    if (QFileInfo::exists(instalados + QStringLiteral("/ayuda/mapa.txt"))) return instalados;
+    return QDir::cleanPath(directorioPrograma);
+}
+
+QString DirectorioDatos() { return UbicaDatos(QCoreApplication::applicationDirPath()); }
 
 QString TextoErrorFatal(const ErrorEjecucion& error)
 {

@@ -1,6 +1,6 @@
 // Everything the program asks of the operating system goes through these interfaces: the
 // message box, the file dialogs, modal windows, the screen size, the decimal separator, the end
-// of the process and the printers. The program installs the Qt implementations at start-up; the
+// of the process, the printers, the help, the desktop's viewers and browser, and the mail. The program installs the Qt implementations at start-up; the
 // tests install doubles that record what was asked and answer from a script, so no test ever
 // waits on a person.
 #pragma once
@@ -91,6 +91,36 @@ public:
     virtual void ErrorFatal(const ErrorEjecucion& error) = 0;
 };
 
+class Ayuda {
+public:
+    virtual ~Ayuda() = default;
+    // Shows the topic of the help file with that context number, or the contents page. A help
+    // file that is missing is the help's own business: it says so in its window.
+    virtual void MuestraTema(const QString& ficheroAyuda, int contexto) = 0;
+    virtual void MuestraContenido(const QString& ficheroAyuda) = 0;
+};
+
+// The programs of the desktop: the viewer associated with a local file, and the browser.
+class Escritorio {
+public:
+    virtual ~Escritorio() = default;
+    // False when no program could be found or started for it.
+    virtual bool AbreFichero(const QString& fichero) = 0;
+    virtual bool AbreDireccion(const QString& direccion) = 0;
+};
+
+// The user's mail program: one session a run, then a new message shown for the user to edit
+// and send from there.
+class Correo {
+public:
+    virtual ~Correo() = default;
+    virtual bool IniciaSesion() = 0;
+    // A new message with its subject and recipient, in the mail program's own window; false
+    // when it could not be composed or the user cancelled it.
+    virtual bool Redacta(const QString& asunto, const QString& destinatario) = 0;
+    virtual void CierraSesion() = 0;
+};
+
 // The services in use.
 Mensajes& ServicioMensajes();
 Ficheros& ServicioFicheros();
@@ -99,6 +129,9 @@ Monitor& ServicioMonitor();
 Regional& ServicioRegional();
 Proceso& ServicioProceso();
 Impresoras& ServicioImpresoras();
+Ayuda& ServicioAyuda();
+Escritorio& ServicioEscritorio();
+Correo& ServicioCorreo();
 
 struct Servicios {
     Mensajes* mensajes = nullptr;
@@ -108,6 +141,9 @@ struct Servicios {
     Regional* regional = nullptr;
     Proceso* proceso = nullptr;
     Impresoras* impresoras = nullptr;
+    Ayuda* ayuda = nullptr;
+    Escritorio* escritorio = nullptr;
+    Correo* correo = nullptr;
 };
 
 // Puts a set of services in place and returns the set it replaces.
@@ -132,6 +168,13 @@ void AtrapaErrorFatal(Manejador manejador)
 // A number in one of the program's formats ("0", "0.00"...) with the machine's decimal
 // separator, as the screens and reports show numbers.
 QString FormatoLocal(double valor, std::string_view patron);
+
+// The folder of the program's help and guide: "share/texalon" beside the folder of the
+// program, as an installation lays it out, when that holds the help; otherwise the folder of
+// the program itself, as in the build tree.
+QString UbicaDatos(const QString& directorioPrograma);
+// The same for the running program.
+QString DirectorioDatos();
 
 // The message of a run-time error that nothing trapped, as the classic runtime words it.
 QString TextoErrorFatal(const ErrorEjecucion& error);

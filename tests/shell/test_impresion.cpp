@@ -205,7 +205,7 @@ public:
         : doble_(doble),
           impresora_(doble.impresoras.impresora, std::move(vigia)),
           anteriores_(Instala({&doble.mensajes, &doble.ficheros, &doble.ventanas, &doble.monitor, &doble.regional,
-                               &doble.proceso, this}))
+                               &doble.proceso, this, &doble.ayuda, &doble.escritorio, &doble.correo}))
     {
     }
     ~ImpresorasVigiladas() override { Instala(anteriores_); }

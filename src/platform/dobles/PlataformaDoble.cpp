@@ -54,8 +54,33 @@ void ProcesoDoble::ErrorFatal(const ErrorEjecucion& error)
     Termina(1);
 }
 
+bool EscritorioDoble::AbreFichero(const QString& fichero)
+{
+    ficheros << fichero;
+    return !sinVisor;
+}
+
+bool EscritorioDoble::AbreDireccion(const QString& direccion)
+{
+    direcciones << direccion;
+    return !sinNavegador;
+}
+
+bool CorreoDoble::IniciaSesion()
+{
+    ++inicios;
+    return !fallaInicio;
+}
+
+bool CorreoDoble::Redacta(const QString& asunto, const QString& destinatario)
+{
+    mensajes.push_back({asunto, destinatario});
+    return !fallaEnvio;
+}
+
 PlataformaDoble::PlataformaDoble()
-    : anteriores_(Instala({&mensajes, &ficheros, &ventanas, &monitor, &regional, &proceso, &impresoras}))
+    : anteriores_(Instala({&mensajes, &ficheros, &ventanas, &monitor, &regional, &proceso, &impresoras, &ayuda,
+                           &escritorio, &correo}))
 {
 }
 

@@ -76,6 +76,47 @@ public:
     std::vector<MensajeMostrado> erroresFatales;
 };
 
+class AyudaDoble final : public Ayuda {
+public:
+    // What the help was asked to show: the help file and the context, 0 for the contents.
+    struct Peticion {
+        QString fichero;
+        int contexto;
+    };
+    void MuestraTema(const QString& ficheroAyuda, int contexto) override { peticiones.push_back({ficheroAyuda, contexto}); }
+    void MuestraContenido(const QString& ficheroAyuda) override { peticiones.push_back({ficheroAyuda, 0}); }
+
+    std::vector<Peticion> peticiones;
+};
+
+class EscritorioDoble final : public Escritorio {
+public:
+    bool AbreFichero(const QString& fichero) override;
+    bool AbreDireccion(const QString& direccion) override;
+
+    QStringList ficheros;
+    QStringList direcciones;
+    bool sinVisor = false;  // no viewer is associated with the file
+    bool sinNavegador = false;  // no browser is installed
+};
+
+class CorreoDoble final : public Correo {
+public:
+    bool IniciaSesion() override;
+    bool Redacta(const QString& asunto, const QString& destinatario) override;
+    void CierraSesion() override { ++cierres; }
+
+    struct Mensaje {
+        QString asunto;
+        QString destinatario;
+    };
+    int inicios = 0;
+    int cierres = 0;
+    std::vector<Mensaje> mensajes;
+    bool fallaInicio = false;  // there is no mail program to sign on to
+    bool fallaEnvio = false;  // the message cannot be composed, or the user cancels it
+};
+
 class PlataformaDoble {
 public:
     PlataformaDoble();
@@ -90,6 +131,9 @@ public:
     RegionalDoble regional;
     ProcesoDoble proceso;
     ImpresorasDoble impresoras;
+    AyudaDoble ayuda;
+    EscritorioDoble escritorio;
+    CorreoDoble correo;
 
 private:
     Servicios anteriores_;

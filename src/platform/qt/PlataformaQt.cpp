@@ -1,10 +1,18 @@
 #include "platform/qt/PlataformaQt.h"
 
 #include "platform/Dialogos.h"
+#ifdef _WIN32
+#include "platform/EscritorioRegistro.h"
+#include "platform/win/RegistroWindows.h"
+#endif
 #include "platform/qt/ImpresoraQt.h"
+#include "platform/qt/VentanaAyuda.h"
 
 #include <QApplication>
+#include <QDesktopServices>
 #include <QDialog>
+#include <QPointer>
+#include <QUrlQuery>
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
@@ -146,6 +154,74 @@ void ProcesoQt::ErrorFatal(const ErrorEjecucion& error)
     Termina(1);
 }
 
+namespace {
+
+QPointer<VentanaAyuda>& VentanaDeAyuda()
+{
+    static QPointer<VentanaAyuda> ventana;
+    return ventana;
+}
+
+}  // namespace
+
+void AyudaQt::MuestraTema(const QString& ficheroAyuda, int contexto) { Muestra(ficheroAyuda, contexto); }
+
+void AyudaQt::MuestraContenido(const QString& ficheroAyuda) { Muestra(ficheroAyuda, 0); }
+
+VentanaAyuda* AyudaQt::Ventana() const { return VentanaDeAyuda(); }
+
+void AyudaQt::Muestra(const QString& ficheroAyuda, int contexto)
+{
+    // The help lives beside the program, in a window of its own that stays while the user
+    // works on; a second request brings the same window forward.
+    QPointer<VentanaAyuda>& ventana = VentanaDeAyuda();
+    if (!ventana) {
+        ventana = new VentanaAyuda;
+        ventana->setAttribute(Qt::WA_DeleteOnClose);
+        ventana->setAttribute(Qt::WA_QuitOnClose, false);
+    }
+    ventana->Muestra(ficheroAyuda, contexto);
+    ventana->show();
+    ventana->raise();
+    ventana->activateWindow();
+}
+
+bool EscritorioQt::AbreFichero(const QString& fichero)
+{
+    // A missing file has no viewer to open it: the same failure as no viewer at all.
+    if (!QFileInfo::exists(fichero)) return false;
+    return QDesktopServices::openUrl(QUrl::fromLocalFile(fichero));
+}
+
+bool EscritorioQt::AbreDireccion(const QString& direccion)
+{
+    const QUrl url = DireccionWeb(direccion);
+    return url.isValid() && QDesktopServices::openUrl(url);
+}
+
+QUrl DireccionWeb(const QString& direccion)
+{
+    const QUrl escrita(direccion.trimmed());
+    if (!escrita.scheme().isEmpty() && escrita.scheme().size() > 1) return escrita;
+    return QUrl(QStringLiteral("https://") + direccion.trimmed());
+}
+
+QUrl DireccionCorreo(const QString& asunto, const QString& destinatario)
+{
+    QUrl url;
+    url.setScheme(QStringLiteral("mailto"));
+    url.setPath(destinatario);
+    QUrlQuery consulta;
+    consulta.addQueryItem(QStringLiteral("subject"), asunto);
+    url.setQuery(consulta);
+    return url;
+}
+
+bool CorreoQt::Redacta(const QString& asunto, const QString& destinatario)
+{
+    return QDesktopServices::openUrl(DireccionCorreo(asunto, destinatario));
+}
+
 void RegistraImagenes() { RegistraRecursoImagenes(); }
 
 void InstalaQt()
@@ -158,7 +234,18 @@ void InstalaQt()
     static RegionalQt regional;
     static ProcesoQt proceso;
     static ImpresorasQt impresoras;
-    Instala({&mensajes, &ficheros, &ventanas, &monitor, &regional, &proceso, &impresoras});
+    static AyudaQt ayuda;
+    static CorreoQt correo;
+#ifdef _WIN32
+    // Windows keeps the viewer and the browser in its registry.
+    static ApiRegistroWindows registro;
+    static ArrancadorWindows arrancador;
+    static EscritorioRegistro escritorio(registro, arrancador);
+#else
+    static EscritorioQt escritorio;
+#endif
+    Instala({&mensajes, &ficheros, &ventanas, &monitor, &regional, &proceso, &impresoras, &ayuda, &escritorio,
+             &correo});
 }
 
 }  // namespace texalon::plataforma

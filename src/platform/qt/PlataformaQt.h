@@ -3,6 +3,7 @@
 
 #include "platform/Plataforma.h"
 
+#include <QUrl>
 #include <memory>
 
 class QMessageBox;
@@ -41,6 +42,39 @@ public:
     void Termina(int codigo) override;
     void ErrorFatal(const ErrorEjecucion& error) override;
 };
+
+// The help window of the program, one for the run, created when first asked for.
+class VentanaAyuda;
+class AyudaQt final : public Ayuda {
+public:
+    void MuestraTema(const QString& ficheroAyuda, int contexto) override;
+    void MuestraContenido(const QString& ficheroAyuda) override;
+    VentanaAyuda* Ventana() const;
+
+private:
+    void Muestra(const QString& ficheroAyuda, int contexto);
+};
+
+// The viewer associated with a file and the default browser, as the desktop says.
+class EscritorioQt final : public Escritorio {
+public:
+    bool AbreFichero(const QString& fichero) override;
+    bool AbreDireccion(const QString& direccion) override;
+};
+
+// The desktop's mail program, reached through a "mailto:" address: it needs no sign-on, and the
+// message is edited and sent there.
+class CorreoQt final : public Correo {
+public:
+    bool IniciaSesion() override { return true; }
+    bool Redacta(const QString& asunto, const QString& destinatario) override;
+    void CierraSesion() override {}
+};
+
+// A "mailto:" address with its subject, as desktop mail programs read it.
+QUrl DireccionCorreo(const QString& asunto, const QString& destinatario);
+// A web address written without a scheme, as the program keeps it, ready for the browser.
+QUrl DireccionWeb(const QString& direccion);
 
 // Installs the Qt services for the life of the process.
 void InstalaQt();
