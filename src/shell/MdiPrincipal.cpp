@@ -5,6 +5,7 @@
 #include "screens/FmConfina.h"
 #include "screens/FmFlexion.h"
 #include "screens/Imagenes.h"
+#include "shell/Ayuda.h"
 #include "shell/FmAcercaDe.h"
 #include "shell/FmPresentacion.h"
 
@@ -63,11 +64,11 @@ const EntradaMenu kCalcular[] = {
 };
 
 const EntradaMenu kAyuda[] = {
-    {"mnuAyudaPrograma", "Ayuda del programa", "F1", true, nullptr},
-    {"mnuAyudaManual", "Manual de referencia", "", true, nullptr},
+    {"mnuAyudaPrograma", "Ayuda del programa", "F1", true, &MdiPrincipal::AyudaPrograma},
+    {"mnuAyudaManual", "Manual de referencia", "", true, &MdiPrincipal::Guia},
     {"mnuAyudaNada1", nullptr, "", true, nullptr},
-    {"mnuAyudaWeb", "Velmora en la web", "", true, nullptr},
-    {"mnuAyudaContactar", "Contactar con Velmora", "", true, nullptr},
+    {"mnuAyudaWeb", "Velmora en la web", "", true, &MdiPrincipal::Web},
+    {"mnuAyudaContactar", "Contactar con Velmora", "", true, &MdiPrincipal::Contactar},
     {"mnuAyudaNada2", nullptr, "", true, nullptr},
     {"mnuAyudaAcerca", "Acerca de...", "", true, &MdiPrincipal::AcercaDe},
 };
@@ -391,6 +392,7 @@ void MdiPrincipal::AcercaDe()
 void MdiPrincipal::Salir()
 {
     CierraPantallaAbierta();
+    CierraCorreo();
     plataforma::ServicioProceso().Termina(0);
 }
 
@@ -405,6 +407,10 @@ void MdiPrincipal::TB_BARRA_ButtonClick(const QString& clave)
     if (clave == QLatin1String("FlexionR")) NuevaFlexion();
     if (clave == QLatin1String("FlexionT")) NuevaFlexionT();
     if (clave == QLatin1String("Confina")) NuevoConfinamiento();
+    if (clave == QLatin1String("Ayuda")) AyudaPrograma();
+    if (clave == QLatin1String("Guia")) Guia();
+    if (clave == QLatin1String("Web")) Web();
+    if (clave == QLatin1String("Mail")) Contactar();
     if (clave == QLatin1String("Info")) AcercaDe();
 }
 
@@ -498,6 +504,7 @@ void MdiPrincipal::closeEvent(QCloseEvent* evento)
 {
     // The screen goes first, through its own unload and prompt; then the process ends.
     area_->closeAllSubWindows();
+    CierraCorreo();
     evento->accept();
     QApplication::quit();
 }

@@ -82,6 +82,12 @@ public:
     // FM_CONFIG_IMPR: the printer of the reports for the rest of the run.
     void ConfigurarImpresora();
     void Salir();
+    // The help on the topic of the open screen, or its contents with none; the guide in the
+    // PDF reader; the maker's web site; a mail to the maker.
+    void AyudaPrograma();
+    void Guia();
+    void Web();
+    void Contactar();
 
     // The one click handler of the toolbar, told the button's key ("Abrir", "FlexionR"...).
     void TB_BARRA_ButtonClick(const QString& clave);

@@ -4,6 +4,9 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QLineEdit>
+#include <QMenu>
+#include <QMenuBar>
+#include <QToolBar>
 #include <QtTest>
 
 namespace texalon::prueba {
@@ -43,6 +46,20 @@ void EscribeYTabula(QWidget* control, const QString& texto)
 }
 
 void Pulsa(QWidget* control) { QTest::mouseClick(control, Qt::LeftButton); }
+
+bool EligeDelMenu(QMenuBar* barra, QMenu* menu, QAction* entrada)
+{
+    if (barra == nullptr || menu == nullptr || entrada == nullptr) return false;
+    QTest::mouseClick(barra, Qt::LeftButton, {}, barra->actionGeometry(menu->menuAction()).center());
+    if (!QTest::qWaitFor([menu] { return menu->isVisible(); })) return false;
+    QTest::mouseClick(menu, Qt::LeftButton, {}, menu->actionGeometry(entrada).center());
+    return QTest::qWaitFor([menu] { return !menu->isVisible(); });
+}
+
+void PulsaEnBarra(QToolBar* barra, QAction* boton)
+{
+    QTest::mouseClick(barra->widgetForAction(boton), Qt::LeftButton);
+}
 
 QStringList RecorridoTab(int pasos)
 {

@@ -8,7 +8,11 @@
 #include <QStringList>
 
 class QAbstractButton;
+class QAction;
 class QComboBox;
+class QMenu;
+class QMenuBar;
+class QToolBar;
 class QWidget;
 
 namespace texalon::prueba {
@@ -29,6 +33,13 @@ void Pulsa(QWidget* control);
 // The user walks the screen with Tab from the control that has the focus: the objectName of
 // each control the focus reaches, `pasos` steps in all.
 QStringList RecorridoTab(int pasos);
+
+// A click on the menu's title in the menu bar, then on its entry; true when the menu opened and
+// closed again on the click.
+bool EligeDelMenu(QMenuBar* barra, QMenu* menu, QAction* entrada);
+
+// A click on the toolbar's button of the action.
+void PulsaEnBarra(QToolBar* barra, QAction* boton);
 
 // Opens the list with Alt+Down, as the keyboard does; true when its rows are on show.
 bool AbreConTeclado(QComboBox* lista);

@@ -1,6 +1,7 @@
 // The printers of the reports on Qt: the PDF printer's pages read back with the PDF tools of
 // poppler (the words and their boxes, the pages, the fonts, the pictures, the pixels), its save
 // dialog through the platform's double, and the list of the machine's printers.
+#include "comun/Pdf.h"
 #include "platform/dobles/PlataformaDoble.h"
 #include "platform/qt/ImpresoraQt.h"
 #include "state/ErrorEjecucion.h"
@@ -11,7 +12,6 @@
 #include <QFileInfo>
 #include <QImage>
 #include <QPrinterInfo>
-#include <QProcess>
 #include <QRegularExpression>
 #include <QSvgRenderer>
 #include <QTemporaryDir>
@@ -43,33 +43,12 @@ struct Palabra {
     double abajo = 0.0;
 };
 
-// Runs one of poppler's tools and gives its output; empty if it failed.
-QString Ejecuta(const QString& programa, const QStringList& argumentos)
-{
-    QProcess proceso;
-    proceso.start(programa, argumentos);
-    if (!proceso.waitForFinished(30000) || proceso.exitStatus() != QProcess::NormalExit || proceso.exitCode() != 0)
-        return {};
-    return QString::fromUtf8(proceso.readAllStandardOutput());
-}
-
-double DesdeMargen(const QString& puntos) { return puntos.toDouble() / kPuntosPorCm - kMargenPdf; }
-
 std::vector<Palabra> Palabras(const QString& pdf)
 {
-    const QString xhtml = Ejecuta(QStringLiteral("pdftotext"), {QStringLiteral("-bbox"), pdf, QStringLiteral("-")});
-    static const QRegularExpression kEtiqueta(QStringLiteral(
-        R"re(<page |<word xMin="([0-9.]+)" yMin="([0-9.]+)" xMax="([0-9.]+)" yMax="([0-9.]+)">([^<]*)</word>)re"));
     std::vector<Palabra> palabras;
-    int pagina = 0;
-    for (const QRegularExpressionMatch& m : kEtiqueta.globalMatch(xhtml)) {
-        if (m.captured(0).startsWith(QStringLiteral("<page"))) {
-            ++pagina;
-            continue;
-        }
-        palabras.push_back({m.captured(5), pagina, DesdeMargen(m.captured(1)), DesdeMargen(m.captured(2)),
-                            DesdeMargen(m.captured(3)), DesdeMargen(m.captured(4))});
-    }
+    for (const prueba::PalabraPdf& p : prueba::PalabrasPdf(pdf))
+        palabras.push_back({p.texto, p.pagina, p.x - kMargenPdf, p.y - kMargenPdf, p.derecha - kMargenPdf,
+                            p.abajo - kMargenPdf});
     return palabras;
 }
 
@@ -80,17 +59,11 @@ std::optional<Palabra> Busca(const std::vector<Palabra>& palabras, const QString
     return std::nullopt;
 }
 
-int Paginas(const QString& pdf)
-{
-    static const QRegularExpression kPaginas(QStringLiteral(R"re(Pages:\s+(\d+))re"));
-    return kPaginas.match(Ejecuta(QStringLiteral("pdfinfo"), {pdf})).captured(1).toInt();
-}
-
 // The first page at `ppp` dots per inch, as a reader shows it.
 QImage Pixeles(const QString& pdf, int ppp)
 {
     const QString base = QFileInfo(pdf).absolutePath() + QStringLiteral("/pagina");
-    Ejecuta(QStringLiteral("pdftoppm"),
+    prueba::EjecutaPoppler(QStringLiteral("pdftoppm"),
             {QStringLiteral("-r"), QString::number(ppp), QStringLiteral("-f"), QStringLiteral("1"),
              QStringLiteral("-singlefile"), QStringLiteral("-png"), pdf, base});
     return QImage(base + QStringLiteral(".png")).convertToFormat(QImage::Format_RGB32);
@@ -273,10 +246,10 @@ private slots:
         impresora->Box(1.0, 4.0, 5.0, 6.0, 0);
         impresora->Circle(8.0, 5.0, 1.0, 0);
         impresora->EndDoc();
-        const QString fuentes = Ejecuta(QStringLiteral("pdffonts"), {pdf});
+        const QString fuentes = prueba::EjecutaPoppler(QStringLiteral("pdffonts"), {pdf});
         QVERIFY2(fuentes.contains(QStringLiteral("LiberationSans")), qPrintable(fuentes));
         // Lines are lines: the page holds no picture.
-        const QString imagenes = Ejecuta(QStringLiteral("pdfimages"), {QStringLiteral("-list"), pdf});
+        const QString imagenes = prueba::EjecutaPoppler(QStringLiteral("pdfimages"), {QStringLiteral("-list"), pdf});
         QCOMPARE(imagenes.split(QLatin1Char('\n'), Qt::SkipEmptyParts).size(), 2);  // the two heading lines
         QVERIFY(Busca(Palabras(pdf), QStringLiteral("Arial")).has_value());
     }
@@ -296,7 +269,7 @@ private slots:
         impresora->EndDoc();
         QCOMPARE(impresora->Page(), 1);
 
-        QCOMPARE(Paginas(pdf), 2);
+        QCOMPARE(prueba::PaginasPdf(pdf), 2);
         const std::vector<Palabra> palabras = Palabras(pdf);
         QCOMPARE(Busca(palabras, QStringLiteral("uno"))->pagina, 1);
         const auto dos = Busca(palabras, QStringLiteral("dos"));
@@ -313,13 +286,13 @@ private slots:
         impresora->NewPage();
         Escribe(*impresora, 1.0, 1.0, "hoja");
         impresora->EndDoc();
-        QCOMPARE(Paginas(pdf), 2);
+        QCOMPARE(prueba::PaginasPdf(pdf), 2);
 
         Prepara(*impresora, "segundo");
         QCOMPARE(impresora->Page(), 1);
         Escribe(*impresora, 1.0, 1.0, "segundo");
         impresora->EndDoc();
-        QCOMPARE(Paginas(pdf), 1);
+        QCOMPARE(prueba::PaginasPdf(pdf), 1);
         const std::vector<Palabra> palabras = Palabras(pdf);
         QCOMPARE(palabras.size(), std::size_t{1});
         QCOMPARE(palabras[0].texto, QStringLiteral("segundo"));

@@ -1,6 +1,7 @@
 // Print and the choice of printer, end to end: the real screens of the main window, their
 // reports on the recording printer, FM_CONFIG_IMPR over the doubles' printers, and the user's
 // keys and clicks in between.
+#include "comun/Principal.h"
 #include "comun/Usuario.h"
 #include "diagrams/qt/Lienzo.h"
 #include "platform/Dialogos.h"
@@ -238,29 +239,8 @@ struct DialogoVisto {
 
 }  // namespace
 
-class PruebaImpresion : public QObject {
+class PruebaImpresion : public prueba::PruebaDePrincipal {
     Q_OBJECT
-
-    std::unique_ptr<PlataformaDoble> doble_;
-    std::unique_ptr<MdiPrincipal> ventana_;
-
-    // A fresh process state and a main window on the screen, the splash gone and the window
-    // active, with the machine's decimal separator given.
-    MdiPrincipal& Arranca(char separador = ',')
-    {
-        ventana_.reset();
-        doble_.reset();
-        Estado() = General{};
-        EstadoDibujo() = GeneralDibujo{};
-        doble_ = std::make_unique<PlataformaDoble>();
-        doble_->regional.separador = separador;
-        ventana_ = std::make_unique<MdiPrincipal>();
-        ventana_->show();
-        if (ventana_->Presentacion() != nullptr) ventana_->Presentacion()->close();
-        ventana_->activateWindow();
-        if (!QTest::qWaitForWindowActive(ventana_.get())) qWarning("la ventana principal no se ha activado");
-        return *ventana_;
-    }
 
     // A number as the machine in use writes it; the test data are written with a comma.
     QString Sep(const char* texto) const

@@ -3,6 +3,7 @@
 // starts in the middle of the screen.
 #include "platform/dobles/PlataformaDoble.h"
 #include "screens/Formulario.h"
+#include "shell/Arranque.h"
 #include "shell/FmPresentacion.h"
 #include "shell/MdiPrincipal.h"
 #include "state/General.h"
@@ -37,14 +38,18 @@ class PruebaInicio : public QObject {
     std::unique_ptr<MdiPrincipal> ventana_;
     std::unique_ptr<QTemporaryDir> carpeta_;
 
-    MdiPrincipal& Arranca()
+    MdiPrincipal& Arranca() { return ArrancaCon({}); }
+
+    // The program started as its entry starts it, with these arguments after its name. The test
+    // owns the window.
+    MdiPrincipal& ArrancaCon(const QStringList& argumentos)
     {
         ventana_.reset();
         Estado() = General{};
         doble_ = std::make_unique<PlataformaDoble>();
         doble_->monitor.tamano = {1024.0, 768.0};
-        ventana_ = std::make_unique<MdiPrincipal>();
-        ventana_->show();
+        ventana_.reset(texalon::Arranca(QStringList{QStringLiteral("texalon")} + argumentos));
+        ventana_->setAttribute(Qt::WA_DeleteOnClose, false);
         return *ventana_;
     }
 
@@ -101,10 +106,8 @@ private slots:
 
     void unProyectoNombradoSeAbreComoAbrir()
     {
-        MdiPrincipal& w = Arranca();
-        QVERIFY(w.Presentacion() != nullptr);
         const QString ruta = Escribe("viga.vmf", kViga);
-        w.AbrirFichero(ruta);
+        MdiPrincipal& w = ArrancaCon({ruta});
         QVERIFY(Mensajes().isEmpty());
         // The splash goes, and the screen of the section kind opens with the file's data.
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
@@ -118,10 +121,18 @@ private slots:
         QCOMPARE(QString::fromStdString(Estado().DIRECTORIO), QFileInfo(ruta).absolutePath());
     }
 
+    void sinArgumentosNoSeAbreNada()
+    {
+        MdiPrincipal& w = ArrancaCon({});
+        QVERIFY(w.Presentacion() != nullptr);
+        QVERIFY(w.PantallaAbierta() == nullptr);
+        QVERIFY(Mensajes().isEmpty());
+        QVERIFY(!Estado().F_ABIERTO);
+    }
+
     void unPilarAbreSuPantalla()
     {
-        MdiPrincipal& w = Arranca();
-        w.AbrirFichero(Escribe("PILAR.VMC", kPilar));
+        MdiPrincipal& w = ArrancaCon({Escribe("PILAR.VMC", kPilar)});
         QVERIFY(w.PantallaAbierta() != nullptr);
         QCOMPARE(w.PantallaAbierta()->objectName(), QStringLiteral("FM_CONFINA"));
         QCOMPARE(Estado().NCP, 1200.0);
@@ -129,8 +140,7 @@ private slots:
 
     void unFicheroMaloDaElMensajeYNingunaPantalla()
     {
-        MdiPrincipal& w = Arranca();
-        w.AbrirFichero(Escribe("mala.vmf", kVigaMala));
+        MdiPrincipal& w = ArrancaCon({Escribe("mala.vmf", kVigaMala)});
         QCOMPARE(Mensajes(), QStringList{kDatosIncorrectos});
         QVERIFY(w.PantallaAbierta() == nullptr);
         QVERIFY(!Estado().F_ABIERTO);
@@ -138,8 +148,7 @@ private slots:
 
     void unFicheroQueNoExisteDaElMensaje()
     {
-        MdiPrincipal& w = Arranca();
-        w.AbrirFichero(carpeta_->filePath(QStringLiteral("no_existe.vmf")));
+        MdiPrincipal& w = ArrancaCon({carpeta_->filePath(QStringLiteral("no_existe.vmf"))});
         // The reader's own error first, as Open shows it.
         QCOMPARE(Mensajes(), QStringList({QStringLiteral("Error 53: No se ha encontrado el archivo"), kDatosIncorrectos}));
         QVERIFY(w.PantallaAbierta() == nullptr);
@@ -147,8 +156,7 @@ private slots:
 
     void otraExtensionSeIgnoraEnSilencio()
     {
-        MdiPrincipal& w = Arranca();
-        w.AbrirFichero(Escribe("notas.txt", kViga));
+        MdiPrincipal& w = ArrancaCon({Escribe("notas.txt", kViga)});
         QVERIFY(Mensajes().isEmpty());
         QVERIFY(w.PantallaAbierta() == nullptr);
     }

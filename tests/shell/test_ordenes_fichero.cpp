@@ -1,5 +1,6 @@
 // Open, Save and Save As of the main window, end to end: the real screens, the real files in a
 // temporary folder, the platform doubles in place of the dialogs and the message box.
+#include "comun/Principal.h"
 #include "comun/Usuario.h"
 #include "platform/dobles/PlataformaDoble.h"
 #include "screens/Entrada.h"
@@ -119,27 +120,10 @@ QString OtroSeparador(QString texto)
 
 }  // namespace
 
-class PruebaOrdenesFichero : public QObject {
+class PruebaOrdenesFichero : public prueba::PruebaDePrincipal {
     Q_OBJECT
 
-    std::unique_ptr<PlataformaDoble> doble_;
-    std::unique_ptr<MdiPrincipal> ventana_;
     std::unique_ptr<QTemporaryDir> carpeta_;
-
-    // A fresh process state and a main window on the screen, the splash gone and the window
-    // active, so that the screens take the focus and the keys as the user's would.
-    MdiPrincipal& Arranca()
-    {
-        ventana_.reset();
-        Estado() = General{};
-        doble_ = std::make_unique<PlataformaDoble>();
-        ventana_ = std::make_unique<MdiPrincipal>();
-        ventana_->show();
-        if (ventana_->Presentacion() != nullptr) ventana_->Presentacion()->close();
-        ventana_->activateWindow();
-        if (!QTest::qWaitForWindowActive(ventana_.get())) qWarning("la ventana principal no se ha activado");
-        return *ventana_;
-    }
 
     // A number of the screens, written with the separator of the machine's setting in use.
     QString Sep(const char* texto) const

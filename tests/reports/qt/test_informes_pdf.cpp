@@ -3,6 +3,7 @@
 // it; no other text is on the pages but the logos'; the flexure reports have two numbered pages
 // and the others one; the letters are embedded fonts, not pictures. The positions that the
 // flexure report commands are those of the report's layout on the real printer's line height.
+#include "comun/Pdf.h"
 #include "diagrams/Grafico.h"
 #include "engine/Calcular.h"
 #include "engine/Caracteristicas.h"
@@ -14,8 +15,6 @@
 #include "state/General.h"
 
 #include <QDir>
-#include <QProcess>
-#include <QProcessEnvironment>
 #include <QRegularExpression>
 #include <QStandardPaths>
 #include <QTemporaryDir>
@@ -35,7 +34,6 @@ using namespace texalon::plataforma;
 
 namespace {
 
-constexpr double kPuntosPorCm = 72.0 / 2.54;
 // How far a word may stand from where it was printed.
 constexpr double kTolerancia = 0.05;
 // Pieces of text printed on one line, a subscript lowered a little included.
@@ -176,65 +174,12 @@ struct Palabra {
     bool impresa = false;  // matched with the words of the printed texts
 };
 
-// Runs one of poppler's tools in the C locale and gives its output; empty if it failed.
-QString Ejecuta(const QString& programa, const QStringList& argumentos)
-{
-    QProcess proceso;
-    QProcessEnvironment entorno = QProcessEnvironment::systemEnvironment();
-    entorno.insert(QStringLiteral("LC_ALL"), QStringLiteral("C"));
-    proceso.setProcessEnvironment(entorno);
-    proceso.start(programa, argumentos);
-    if (!proceso.waitForFinished(30000) || proceso.exitStatus() != QProcess::NormalExit || proceso.exitCode() != 0)
-        return {};
-    return QString::fromUtf8(proceso.readAllStandardOutput());
-}
-
-double DesdeMargen(const QString& puntos) { return puntos.toDouble() / kPuntosPorCm - kMargenPdf; }
-
-QString SinEntidades(QString texto)
-{
-    texto.replace(QStringLiteral("&lt;"), QStringLiteral("<"));
-    texto.replace(QStringLiteral("&gt;"), QStringLiteral(">"));
-    texto.replace(QStringLiteral("&quot;"), QStringLiteral("\""));
-    texto.replace(QStringLiteral("&apos;"), QStringLiteral("'"));
-    texto.replace(QStringLiteral("&amp;"), QStringLiteral("&"));
-    return texto;
-}
-
 std::vector<Palabra> Palabras(const QString& pdf)
 {
-    const QString xhtml = Ejecuta(QStringLiteral("pdftotext"), {QStringLiteral("-bbox"), QStringLiteral("-enc"),
-                                                                QStringLiteral("UTF-8"), pdf, QStringLiteral("-")});
-    static const QRegularExpression kEtiqueta(QStringLiteral(
-        R"re(<page |<word xMin="([0-9.]+)" yMin="([0-9.]+)" xMax="([0-9.]+)" yMax="[0-9.]+">([^<]*)</word>)re"));
     std::vector<Palabra> palabras;
-    int pagina = 0;
-    for (const QRegularExpressionMatch& m : kEtiqueta.globalMatch(xhtml)) {
-        if (m.captured(0).startsWith(QStringLiteral("<page"))) {
-            ++pagina;
-            continue;
-        }
-        palabras.push_back({SinEntidades(m.captured(4)), pagina, DesdeMargen(m.captured(1)), DesdeMargen(m.captured(2)),
-                            DesdeMargen(m.captured(3))});
-    }
+    for (const prueba::PalabraPdf& p : prueba::PalabrasPdf(pdf))
+        palabras.push_back({p.texto, p.pagina, p.x - kMargenPdf, p.y - kMargenPdf, p.derecha - kMargenPdf});
     return palabras;
-}
-
-int Paginas(const QString& pdf)
-{
-    static const QRegularExpression kPaginas(QStringLiteral(R"re(Pages:\s+(\d+))re"));
-    return kPaginas.match(Ejecuta(QStringLiteral("pdfinfo"), {pdf})).captured(1).toInt();
-}
-
-// The plain text of each page, in order.
-QStringList TextoDePaginas(const QString& pdf)
-{
-    QStringList paginas = Ejecuta(QStringLiteral("pdftotext"),
-                                  {QStringLiteral("-enc"), QStringLiteral("UTF-8"), pdf, QStringLiteral("-")})
-                              .split(QLatin1Char('\f'));
-    // The text ends with a form feed after the last page.
-    if (!paginas.isEmpty() && paginas.last().trimmed().isEmpty()) paginas.removeLast();
-    return paginas;
 }
 
 // A font of the document as pdffonts lists it: its name and whether the file carries it.
@@ -247,7 +192,7 @@ struct Fuente {
 // says whether the font is embedded.
 std::vector<Fuente> Fuentes(const QString& pdf)
 {
-    const QStringList lineas = Ejecuta(QStringLiteral("pdffonts"), {pdf}).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+    const QStringList lineas = prueba::EjecutaPoppler(QStringLiteral("pdffonts"), {pdf}).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
     std::vector<Fuente> fuentes;
     if (lineas.size() < 2) return fuentes;
     static const QRegularExpression kColumna(QStringLiteral("-+"));
@@ -546,8 +491,8 @@ private slots:
         if (QTest::currentTestFailed()) return;
 
         const int paginas = PaginasDe(informe);
-        QCOMPARE(Paginas(pdf), paginas);
-        const QStringList textos = TextoDePaginas(pdf);
+        QCOMPARE(prueba::PaginasPdf(pdf), paginas);
+        const QStringList textos = prueba::TextoDePaginasPdf(pdf);
         QCOMPARE(textos.size(), paginas);
         for (int n = 1; n <= paginas; ++n) {
             const QString numero = QStringLiteral("Página %1").arg(n);

@@ -1,0 +1,34 @@
+// What a PDF file holds, read back with poppler's tools, for the tests of the printed reports
+// and of the guide.
+#pragma once
+
+#include <QString>
+#include <QStringList>
+#include <vector>
+
+namespace texalon::prueba {
+
+// A word of a page as pdftotext finds it: its page from 1 and its box in centimetres from the
+// page's top-left corner. The top of the box is the top of the line of text.
+struct PalabraPdf {
+    QString texto;
+    int pagina = 0;
+    double x = 0.0;
+    double y = 0.0;
+    double derecha = 0.0;
+    double abajo = 0.0;
+};
+
+// Runs one of poppler's tools in the C locale and gives its output; empty if it failed.
+QString EjecutaPoppler(const QString& programa, const QStringList& argumentos);
+
+// Every word of the file, page by page.
+std::vector<PalabraPdf> PalabrasPdf(const QString& pdf);
+
+// The number of pages of the file.
+int PaginasPdf(const QString& pdf);
+
+// The plain text of each page, in order.
+QStringList TextoDePaginasPdf(const QString& pdf);
+
+}  // namespace texalon::prueba

@@ -1,0 +1,300 @@
+// Help, guide, web and mail as the user reaches them: F1, the Ayuda menu and the toolbar, with
+// each screen open and with none; the messages when the desktop has no reader, browser or mail
+// program; one mail session a run, signed off when the program ends.
+#include "comun/Principal.h"
+#include "comun/Usuario.h"
+#include "platform/dobles/PlataformaDoble.h"
+#include "shell/Ayuda.h"
+#include "shell/MdiPrincipal.h"
+#include "state/General.h"
+
+#include <QMenuBar>
+#include <QToolBar>
+#include <QtTest>
+#include <memory>
+
+using namespace texalon;
+using namespace texalon::plataforma;
+
+namespace {
+
+const QString kSinLector = QStringLiteral(
+    "No se ha encontrado ningún lector de ficheros PDF. En el CD de instalación está disponible el Adobe Acrobat Reader.");
+const QString kSinNavegador = QStringLiteral("No se ha encontrado ningún navegador asociado en su ordenador.");
+const QString kSinCorreo = QStringLiteral("No se ha podido establecer la aplicación de correo electrónico.");
+
+// Toolbar buttons by their place, the leading separator counted as 1.
+constexpr int kBotonCarac = 5;
+constexpr int kBotonFlexionR = 6;
+constexpr int kBotonFlexionT = 7;
+constexpr int kBotonConfina = 8;
+constexpr int kBotonAyuda = 9;
+constexpr int kBotonGuia = 10;
+constexpr int kBotonWeb = 11;
+constexpr int kBotonMail = 12;
+
+}  // namespace
+
+// How the user gives a command: the menu with the mouse, or the toolbar.
+enum class Via { Menu, Barra };
+Q_DECLARE_METATYPE(Via)
+
+class PruebaAyuda : public prueba::PruebaDePrincipal {
+    Q_OBJECT
+
+    void Orden(Via via, const char* entrada, int boton)
+    {
+        MdiPrincipal& w = *ventana_;
+        if (via == Via::Menu) {
+            auto* menu = w.menuBar()->findChild<QMenu*>(QStringLiteral("mnuAyuda"));
+            QVERIFY(prueba::EligeDelMenu(w.menuBar(), menu, w.ElementoMenu(QString::fromLatin1(entrada))));
+        } else {
+            prueba::PulsaEnBarra(w.Barra(), w.Boton(boton));
+        }
+    }
+
+    QStringList Mensajes() const
+    {
+        QStringList textos;
+        for (const MensajeMostrado& mensaje : doble_->mensajes.mostrados) {
+            if (mensaje.estilo != Estilo::Parada) textos << QStringLiteral("(estilo %1)").arg(int(mensaje.estilo));
+            textos << mensaje.texto;
+        }
+        return textos;
+    }
+
+private slots:
+    void cleanup()
+    {
+        ventana_.reset();
+        doble_.reset();
+    }
+
+    void elFicheroDeAyudaYLaGuiaEstanEnLaCarpetaDeDatosDelPrograma()
+    {
+        QCOMPARE(FicheroAyuda(), DirectorioDatos() + QStringLiteral("/ayuda"));
+        QCOMPARE(FicheroGuia(), DirectorioDatos() + QStringLiteral("/guia_texalon.pdf"));
+    }
+
+    void f1SinPantallaAbiertaMuestraElContenido()
+    {
+        Arranca();
+        QTest::keyClick(ventana_.get(), Qt::Key_F1);
+        QCOMPARE(doble_->ayuda.peticiones.size(), std::size_t{1});
+        QCOMPARE(doble_->ayuda.peticiones[0].fichero, FicheroAyuda());
+        QCOMPARE(doble_->ayuda.peticiones[0].contexto, 0);
+    }
+
+    void ayudaPorMenuYBarraSinPantallaMuestraElContenido_data()
+    {
+        QTest::addColumn<Via>("via");
+        QTest::newRow("menú") << Via::Menu;
+        QTest::newRow("barra") << Via::Barra;
+    }
+
+    void ayudaPorMenuYBarraSinPantallaMuestraElContenido()
+    {
+        QFETCH(Via, via);
+        Arranca();
+        Orden(via, "mnuAyudaPrograma", kBotonAyuda);
+        QCOMPARE(doble_->ayuda.peticiones.size(), std::size_t{1});
+        QCOMPARE(doble_->ayuda.peticiones[0].contexto, 0);
+        QVERIFY(doble_->mensajes.mostrados.empty());
+    }
+
+    void ayudaConCadaPantallaMuestraSuTema_data()
+    {
+        QTest::addColumn<int>("botonPantalla");
+        QTest::addColumn<Via>("via");
+        QTest::addColumn<int>("contexto");
+        const std::pair<const char*, std::pair<int, int>> pantallas[] = {
+            {"FM_CARAC", {kBotonCarac, 31}},
+            {"FM_FLEXION", {kBotonFlexionR, 32}},
+            {"FM_CONFINA", {kBotonConfina, 33}},
+            {"FM_FLEXIONT", {kBotonFlexionT, 34}},
+        };
+        for (const auto& [nombre, datos] : pantallas) {
+            QTest::addRow("%s F1", nombre) << datos.first << Via::Menu << datos.second;
+            QTest::addRow("%s barra", nombre) << datos.first << Via::Barra << datos.second;
+        }
+    }
+
+    void ayudaConCadaPantallaMuestraSuTema()
+    {
+        QFETCH(int, botonPantalla);
+        QFETCH(Via, via);
+        QFETCH(int, contexto);
+        MdiPrincipal& w = Arranca();
+        prueba::PulsaEnBarra(w.Barra(), w.Boton(botonPantalla));
+        QTRY_VERIFY(w.PantallaAbierta() != nullptr);
+        if (via == Via::Menu) {
+            // F1 from wherever the focus is on the screen: its first field.
+            QWidget* foco = QApplication::focusWidget();
+            QVERIFY(foco != nullptr);
+            QTest::keyClick(foco, Qt::Key_F1);
+        } else {
+            Orden(via, "mnuAyudaPrograma", kBotonAyuda);
+        }
+        QCOMPARE(doble_->ayuda.peticiones.size(), std::size_t{1});
+        QCOMPARE(doble_->ayuda.peticiones[0].fichero, FicheroAyuda());
+        QCOMPARE(doble_->ayuda.peticiones[0].contexto, contexto);
+    }
+
+    void conFmConfinaAbiertaElMenuMuestraElTema33()
+    {
+        MdiPrincipal& w = Arranca();
+        prueba::PulsaEnBarra(w.Barra(), w.Boton(kBotonConfina));
+        QTRY_VERIFY(Estado().F_CONFINA);
+        Orden(Via::Menu, "mnuAyudaPrograma", kBotonAyuda);
+        QCOMPARE(doble_->ayuda.peticiones.size(), std::size_t{1});
+        QCOMPARE(doble_->ayuda.peticiones[0].contexto, 33);
+    }
+
+    void laPantallaSeBuscaPorSusIndicadoresEnElOrdenDeSiempre()
+    {
+        // Flexion, characteristics, confinement, T: the first flag that is up gives the topic.
+        Arranca();
+        Estado().F_CONFINA = true;
+        Estado().F_FLEXIONT = true;
+        ventana_->AyudaPrograma();
+        Estado().F_CARAC = true;
+        ventana_->AyudaPrograma();
+        Estado().F_FLEXION = true;
+        ventana_->AyudaPrograma();
+        QCOMPARE(doble_->ayuda.peticiones.size(), std::size_t{3});
+        QCOMPARE(doble_->ayuda.peticiones[0].contexto, 33);
+        QCOMPARE(doble_->ayuda.peticiones[1].contexto, 31);
+        QCOMPARE(doble_->ayuda.peticiones[2].contexto, 32);
+    }
+
+    void menuYBarra_data()
+    {
+        QTest::addColumn<Via>("via");
+        QTest::newRow("menú") << Via::Menu;
+        QTest::newRow("barra") << Via::Barra;
+    }
+
+    void laGuiaSeAbreEnElLectorDePdf_data() { menuYBarra_data(); }
+    void laGuiaSeAbreEnElLectorDePdf()
+    {
+        QFETCH(Via, via);
+        Arranca();
+        Orden(via, "mnuAyudaManual", kBotonGuia);
+        QCOMPARE(doble_->escritorio.ficheros, QStringList{FicheroGuia()});
+        QVERIFY(doble_->mensajes.mostrados.empty());
+    }
+
+    void sinLectorDePdfLaGuiaLoDice_data() { menuYBarra_data(); }
+    void sinLectorDePdfLaGuiaLoDice()
+    {
+        QFETCH(Via, via);
+        Arranca();
+        doble_->escritorio.sinVisor = true;
+        Orden(via, "mnuAyudaManual", kBotonGuia);
+        QCOMPARE(Mensajes(), QStringList{kSinLector});
+    }
+
+    void laWebSeAbreEnElNavegadorConLaDireccionDelProducto_data() { menuYBarra_data(); }
+    void laWebSeAbreEnElNavegadorConLaDireccionDelProducto()
+    {
+        QFETCH(Via, via);
+        Arranca();
+        Orden(via, "mnuAyudaWeb", kBotonWeb);
+        QCOMPARE(doble_->escritorio.direcciones, QStringList{QStringLiteral(TEXALON_WEB)});
+        QCOMPARE(DireccionWebVelmora(), QStringLiteral(TEXALON_WEB));
+        // Written without a scheme.
+        QVERIFY(!DireccionWebVelmora().contains(QStringLiteral("://")));
+        QVERIFY(doble_->mensajes.mostrados.empty());
+    }
+
+    void sinNavegadorLaWebLoDice_data() { menuYBarra_data(); }
+    void sinNavegadorLaWebLoDice()
+    {
+        QFETCH(Via, via);
+        Arranca();
+        doble_->escritorio.sinNavegador = true;
+        Orden(via, "mnuAyudaWeb", kBotonWeb);
+        QCOMPARE(Mensajes(), QStringList{kSinNavegador});
+    }
+
+    void unCorreoLlevaElAsuntoYElBuzonDelFabricante_data() { menuYBarra_data(); }
+    void unCorreoLlevaElAsuntoYElBuzonDelFabricante()
+    {
+        QFETCH(Via, via);
+        Arranca();
+        Orden(via, "mnuAyudaContactar", kBotonMail);
+        QCOMPARE(doble_->correo.inicios, 1);
+        QCOMPARE(doble_->correo.mensajes.size(), std::size_t{1});
+        QCOMPARE(doble_->correo.mensajes[0].asunto, QStringLiteral("INFORMACION SOBRE EL SISTEMA DE REFUERZO TEXALON®"));
+        QCOMPARE(doble_->correo.mensajes[0].destinatario, QStringLiteral(TEXALON_CORREO));
+        QVERIFY(Estado().F_MAPI);
+        QVERIFY(doble_->mensajes.mostrados.empty());
+    }
+
+    void dosCorreosEnUnaEjecucionUnSoloInicioDeSesion()
+    {
+        Arranca();
+        Orden(Via::Menu, "mnuAyudaContactar", kBotonMail);
+        Orden(Via::Barra, "mnuAyudaContactar", kBotonMail);
+        QCOMPARE(doble_->correo.inicios, 1);
+        QCOMPARE(doble_->correo.mensajes.size(), std::size_t{2});
+        QVERIFY(Estado().F_MAPI);
+    }
+
+    void sinProgramaDeCorreoLoDiceYNoQuedaSesion()
+    {
+        Arranca();
+        doble_->correo.fallaInicio = true;
+        Orden(Via::Barra, "mnuAyudaContactar", kBotonMail);
+        QCOMPARE(Mensajes(), QStringList{kSinCorreo});
+        QVERIFY(!Estado().F_MAPI);
+        QVERIFY(doble_->correo.mensajes.empty());
+        // The next mail tries the sign-on again.
+        doble_->correo.fallaInicio = false;
+        Orden(Via::Barra, "mnuAyudaContactar", kBotonMail);
+        QCOMPARE(doble_->correo.inicios, 2);
+        QVERIFY(Estado().F_MAPI);
+    }
+
+    void unCorreoQueNoSeEnviaLoDiceYLaSesionSigueAbierta()
+    {
+        Arranca();
+        doble_->correo.fallaEnvio = true;
+        Orden(Via::Menu, "mnuAyudaContactar", kBotonMail);
+        QCOMPARE(Mensajes(), QStringList{kSinCorreo});
+        QVERIFY(Estado().F_MAPI);
+        doble_->correo.fallaEnvio = false;
+        Orden(Via::Menu, "mnuAyudaContactar", kBotonMail);
+        QCOMPARE(doble_->correo.inicios, 1);
+        QCOMPARE(Mensajes(), QStringList{kSinCorreo});
+    }
+
+    void salirCierraLaSesionDeCorreo()
+    {
+        MdiPrincipal& w = Arranca();
+        Orden(Via::Barra, "mnuAyudaContactar", kBotonMail);
+        QTest::keyClick(&w, Qt::Key_F7);
+        QCOMPARE(doble_->correo.cierres, 1);
+        QVERIFY(!Estado().F_MAPI);
+        QCOMPARE(doble_->proceso.terminaciones, std::vector<int>{0});
+    }
+
+    void cerrarLaVentanaPrincipalCierraLaSesionDeCorreo()
+    {
+        MdiPrincipal& w = Arranca();
+        Orden(Via::Barra, "mnuAyudaContactar", kBotonMail);
+        w.close();
+        QCOMPARE(doble_->correo.cierres, 1);
+        QVERIFY(!Estado().F_MAPI);
+    }
+
+    void sinCorreoEnLaEjecucionNoHayNadaQueCerrar()
+    {
+        MdiPrincipal& w = Arranca();
+        QTest::keyClick(&w, Qt::Key_F7);
+        QCOMPARE(doble_->correo.cierres, 0);
+    }
+};
+
+QTEST_MAIN(PruebaAyuda)
+#include "test_ayuda.moc"
