@@ -145,6 +145,11 @@ void Recorre(MdiPrincipal& p)
     prueba::Pulsa(qobject_cast<QRadioButton*>(C(p, "OP_TX")));
     Captura("caracteristicas");
     Imprime(p);
+
+    // F1 on the rectangular section: the help window on its topic.
+    Abre(p, &MdiPrincipal::NuevaFlexion);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_F1);
+    Captura("ayuda");
 }
 
 }  // namespace

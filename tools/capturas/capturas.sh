@@ -12,3 +12,5 @@ for informe in "$destino"/informe_flexion "$destino"/informe_flexion_t "$destino
   pdftoppm -r 60 -png "$informe.pdf" "$informe"
   rm "$informe.pdf"
 done
+# The first pages of the guide, as the build wrote it.
+pdftoppm -r 60 -png -f 1 -l 4 build/src/shell/guia_texalon.pdf "$destino"/guia
