@@ -7,6 +7,7 @@ PAQUETES=(
   qt6-base-dev qt6-base-dev-tools qt6-svg-dev libqt6svg6 qt6-translations-l10n libgl-dev
   libgtest-dev googletest libbenchmark-dev
   fonts-liberation locales poppler-utils
+  dpkg-dev desktop-file-utils shared-mime-info libxml2-utils
 )
 
 # Regional settings the tests run under: Spanish (comma) and English (period).
