@@ -32,23 +32,19 @@ constexpr double kPuntosPorCm = 72.0 / 2.54;
 // How far a word may stand from where it was printed.
 constexpr double kTolerancia = 0.05;
 
-// A word of a PDF page, as pdftotext finds it: its page from 1 and its box in centimetres from
-// the printable area's top-left corner (the PDF printer's margin taken off).
-struct Palabra {
-    QString texto;
-    int pagina = 0;
-    double x = 0.0;
-    double y = 0.0;
-    double derecha = 0.0;
-    double abajo = 0.0;
-};
+using Palabra = prueba::PalabraPdf;
 
+// The words of the PDF with their boxes measured from the printable area's top-left corner,
+// where the printer places its positions: the PDF printer's margin taken off.
 std::vector<Palabra> Palabras(const QString& pdf)
 {
-    std::vector<Palabra> palabras;
-    for (const prueba::PalabraPdf& p : prueba::PalabrasPdf(pdf))
-        palabras.push_back({p.texto, p.pagina, p.x - kMargenPdf, p.y - kMargenPdf, p.derecha - kMargenPdf,
-                            p.abajo - kMargenPdf});
+    std::vector<Palabra> palabras = prueba::PalabrasPdf(pdf);
+    for (Palabra& p : palabras) {
+        p.x -= kMargenPdf;
+        p.y -= kMargenPdf;
+        p.derecha -= kMargenPdf;
+        p.abajo -= kMargenPdf;
+    }
     return palabras;
 }
 
