@@ -201,8 +201,9 @@ bool EscritorioQt::AbreDireccion(const QString& direccion)
 
 QUrl DireccionWeb(const QString& direccion)
 {
+    // An address that brings a scheme of its own is taken as it is; a drive letter is none.
     const QUrl escrita(direccion.trimmed());
-    if (!escrita.scheme().isEmpty() && escrita.scheme().size() > 1) return escrita;
+    if (escrita.scheme().size() > 1) return escrita;
     return QUrl(QStringLiteral("https://") + direccion.trimmed());
 }
 
