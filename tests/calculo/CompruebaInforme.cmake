@@ -3,23 +3,12 @@
 # extension>.pdf, a PDF document whose text holds TEXTO and that has PAGINAS pages.
 #   -DPROGRAMA=<path of texalon-calculo>  -DCARPETA=<folder, made anew>  -DFICHERO=<project>
 #   -DTEXTO=<text expected in the report>  -DPAGINAS=<number of pages>
+include(${CMAKE_CURRENT_LIST_DIR}/EjecutaCalculo.cmake)
 file(REMOVE_RECURSE "${CARPETA}")
-execute_process(
-  COMMAND "${PROGRAMA}" --informe "${CARPETA}" "${FICHERO}"
-  RESULT_VARIABLE estado
-  OUTPUT_VARIABLE salida
-  ERROR_VARIABLE errores)
-if(NOT estado STREQUAL "0")
-  message(FATAL_ERROR "texalon-calculo terminó con ${estado} y se esperaba 0\n${salida}\n${errores}")
-endif()
-if(NOT errores STREQUAL "")
-  message(FATAL_ERROR "texalon-calculo ha escrito en la salida de errores:\n${errores}")
-endif()
+texalon_calculo_sin_errores(--informe "${CARPETA}" "${FICHERO}")
 get_filename_component(nombre "${FICHERO}" NAME_WLE)
 set(pdf "${CARPETA}/${nombre}.pdf")
-if(NOT EXISTS "${pdf}")
-  message(FATAL_ERROR "No se ha escrito ${pdf}")
-endif()
+texalon_calculo_ha_escrito("${pdf}")
 file(READ "${pdf}" cabecera LIMIT 8)
 string(FIND "${cabecera}" "%PDF-" inicio)
 if(NOT inicio EQUAL 0)

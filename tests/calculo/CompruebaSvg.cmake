@@ -7,24 +7,13 @@
 #   -DOPCIONES=<more options, parted by blanks, may be empty>
 #   -DESPERADO=<expected SVG file, optional>: the picture must be that file byte for byte; with
 #   TEXALON_ACTUALIZA_ESPERADO set in the environment it is written anew instead, for review.
+include(${CMAKE_CURRENT_LIST_DIR}/EjecutaCalculo.cmake)
 file(REMOVE_RECURSE "${CARPETA}")
 separate_arguments(opciones UNIX_COMMAND "${OPCIONES}")
-execute_process(
-  COMMAND "${PROGRAMA}" --diagrama "${NOMBRE}" ${opciones} --svg "${CARPETA}" "${FICHERO}"
-  RESULT_VARIABLE estado
-  OUTPUT_VARIABLE salida
-  ERROR_VARIABLE errores)
-if(NOT estado STREQUAL "0")
-  message(FATAL_ERROR "texalon-calculo terminó con ${estado} y se esperaba 0\n${salida}\n${errores}")
-endif()
-if(NOT errores STREQUAL "")
-  message(FATAL_ERROR "texalon-calculo ha escrito en la salida de errores:\n${errores}")
-endif()
+texalon_calculo_sin_errores(--diagrama "${NOMBRE}" ${opciones} --svg "${CARPETA}" "${FICHERO}")
 get_filename_component(nombre "${FICHERO}" NAME_WLE)
 set(svg "${CARPETA}/${nombre}-${NOMBRE}.svg")
-if(NOT EXISTS "${svg}")
-  message(FATAL_ERROR "No se ha escrito ${svg}\n${errores}")
-endif()
+texalon_calculo_ha_escrito("${svg}")
 file(READ "${svg}" contenido)
 foreach(parte "<svg" "${TEXTO}")
   string(FIND "${contenido}" "${parte}" posicion)

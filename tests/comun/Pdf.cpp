@@ -9,7 +9,7 @@ namespace {
 
 constexpr double kPuntosPorCm = 72.0 / 2.54;
 
-double Centimetros(const QString& puntos) { return puntos.toDouble() / kPuntosPorCm; }
+double Centimetros(const QString& puntos, double margen) { return puntos.toDouble() / kPuntosPorCm - margen; }
 
 // pdftotext writes its words as XHTML: the five entities stand for their characters.
 QString SinEntidades(QString texto)
@@ -36,7 +36,7 @@ QString EjecutaPoppler(const QString& programa, const QStringList& argumentos)
     return QString::fromUtf8(proceso.readAllStandardOutput());
 }
 
-std::vector<PalabraPdf> PalabrasPdf(const QString& pdf)
+std::vector<PalabraPdf> PalabrasPdf(const QString& pdf, double margen)
 {
     const QString xhtml = EjecutaPoppler(QStringLiteral("pdftotext"), {QStringLiteral("-bbox"), QStringLiteral("-enc"),
                                                                        QStringLiteral("UTF-8"), pdf, QStringLiteral("-")});
@@ -49,8 +49,9 @@ std::vector<PalabraPdf> PalabrasPdf(const QString& pdf)
             ++pagina;
             continue;
         }
-        palabras.push_back({SinEntidades(m.captured(5)), pagina, Centimetros(m.captured(1)), Centimetros(m.captured(2)),
-                            Centimetros(m.captured(3)), Centimetros(m.captured(4))});
+        palabras.push_back({SinEntidades(m.captured(5)), pagina, Centimetros(m.captured(1), margen),
+                            Centimetros(m.captured(2), margen), Centimetros(m.captured(3), margen),
+                            Centimetros(m.captured(4), margen)});
     }
     return palabras;
 }

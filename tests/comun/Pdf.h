@@ -8,8 +8,8 @@
 
 namespace texalon::prueba {
 
-// A word of a page as pdftotext finds it: its page from 1 and its box in centimetres from the
-// page's top-left corner. The top of the box is the top of the line of text.
+// A word of a page as pdftotext finds it: its page from 1 and its box in centimetres. The top
+// of the box is the top of the line of text.
 struct PalabraPdf {
     QString texto;
     int pagina = 0;
@@ -22,8 +22,9 @@ struct PalabraPdf {
 // Runs one of poppler's tools in the C locale and gives its output; empty if it failed.
 QString EjecutaPoppler(const QString& programa, const QStringList& argumentos);
 
-// Every word of the file, page by page.
-std::vector<PalabraPdf> PalabrasPdf(const QString& pdf);
+// Every word of the file, page by page, its box measured from the page's top-left corner, or
+// from the corner of a margin of that width all round (a printer's printable area).
+std::vector<PalabraPdf> PalabrasPdf(const QString& pdf, double margen = 0.0);
 
 // The number of pages of the file.
 int PaginasPdf(const QString& pdf);

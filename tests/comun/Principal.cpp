@@ -1,8 +1,11 @@
 #include "Principal.h"
 
+#include "screens/Formulario.h"
 #include "shell/FmPresentacion.h"
 #include "state/General.h"
 
+#include <QAction>
+#include <QToolBar>
 #include <QtTest>
 
 namespace texalon::prueba {
@@ -28,6 +31,39 @@ void PruebaDePrincipal::Termina()
 {
     ventana_.reset();
     doble_.reset();
+}
+
+QString PruebaDePrincipal::Sep(const char* texto) const
+{
+    QString s = QString::fromUtf8(texto);
+    if (doble_->regional.separador == '.') s.replace(QLatin1Char(','), QLatin1Char('.'));
+    return s;
+}
+
+bool PruebaDePrincipal::Orden(const char* nombre)
+{
+    QAction* accion = ventana_->ElementoMenu(QString::fromLatin1(nombre));
+    if (accion == nullptr) qFatal("no hay elemento de menú %s", nombre);
+    const bool activo = accion->isEnabled();
+    accion->trigger();
+    return activo;
+}
+
+bool PruebaDePrincipal::Boton(const char* clave)
+{
+    for (QAction* accion : ventana_->Barra()->actions())
+        if (accion->data().toString() == QLatin1String(clave)) {
+            const bool activo = accion->isEnabled();
+            QTest::mouseClick(ventana_->Barra()->widgetForAction(accion), Qt::LeftButton);
+            return activo;
+        }
+    qFatal("no hay botón %s", clave);
+}
+
+Formulario* PruebaDePrincipal::Abierta() const
+{
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    return ventana_->PantallaAbierta();
 }
 
 }  // namespace texalon::prueba

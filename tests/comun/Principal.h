@@ -6,7 +6,12 @@
 #include "platform/dobles/PlataformaDoble.h"
 #include "shell/MdiPrincipal.h"
 
+#include <QString>
 #include <memory>
+
+namespace texalon {
+class Formulario;
+}
 
 namespace texalon::prueba {
 
@@ -20,6 +25,17 @@ protected:
 
     // The window goes while the doubles still answer for the platform.
     void Termina();
+
+    // A number of the screens, written with a comma in the test, as the machine in use writes it.
+    QString Sep(const char* texto) const;
+
+    // Runs a menu item as the user's choice would; tells whether it was available.
+    bool Orden(const char* nombre);
+    // A click on the toolbar button of that key; tells whether it was available.
+    bool Boton(const char* clave);
+
+    // The screen open now; the child windows that have closed are gone by then.
+    Formulario* Abierta() const;
 
     std::unique_ptr<plataforma::PlataformaDoble> doble_;
     std::unique_ptr<MdiPrincipal> ventana_;

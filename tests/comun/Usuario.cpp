@@ -6,7 +6,6 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
-#include <QToolBar>
 #include <QtTest>
 
 namespace texalon::prueba {
@@ -54,11 +53,6 @@ bool EligeDelMenu(QMenuBar* barra, QMenu* menu, QAction* entrada)
     if (!QTest::qWaitFor([menu] { return menu->isVisible(); })) return false;
     QTest::mouseClick(menu, Qt::LeftButton, {}, menu->actionGeometry(entrada).center());
     return QTest::qWaitFor([menu] { return !menu->isVisible(); });
-}
-
-void PulsaEnBarra(QToolBar* barra, QAction* boton)
-{
-    QTest::mouseClick(barra->widgetForAction(boton), Qt::LeftButton);
 }
 
 QStringList RecorridoTab(int pasos)

@@ -12,7 +12,6 @@ class QAction;
 class QComboBox;
 class QMenu;
 class QMenuBar;
-class QToolBar;
 class QWidget;
 
 namespace texalon::prueba {
@@ -37,9 +36,6 @@ QStringList RecorridoTab(int pasos);
 // A click on the menu's title in the menu bar, then on its entry; true when the menu opened and
 // closed again on the click.
 bool EligeDelMenu(QMenuBar* barra, QMenu* menu, QAction* entrada);
-
-// A click on the toolbar's button of the action.
-void PulsaEnBarra(QToolBar* barra, QAction* boton);
 
 // Opens the list with Alt+Down, as the keyboard does; true when its rows are on show.
 bool AbreConTeclado(QComboBox* lista);

@@ -35,18 +35,8 @@ constexpr double kTolerancia = 0.05;
 using Palabra = prueba::PalabraPdf;
 
 // The words of the PDF with their boxes measured from the printable area's top-left corner,
-// where the printer places its positions: the PDF printer's margin taken off.
-std::vector<Palabra> Palabras(const QString& pdf)
-{
-    std::vector<Palabra> palabras = prueba::PalabrasPdf(pdf);
-    for (Palabra& p : palabras) {
-        p.x -= kMargenPdf;
-        p.y -= kMargenPdf;
-        p.derecha -= kMargenPdf;
-        p.abajo -= kMargenPdf;
-    }
-    return palabras;
-}
+// where the printer places its positions.
+std::vector<Palabra> Palabras(const QString& pdf) { return prueba::PalabrasPdf(pdf, kMargenPdf); }
 
 std::optional<Palabra> Busca(const std::vector<Palabra>& palabras, const QString& texto)
 {

@@ -23,16 +23,6 @@ const QString kSinLector = QStringLiteral(
 const QString kSinNavegador = QStringLiteral("No se ha encontrado ningún navegador asociado en su ordenador.");
 const QString kSinCorreo = QStringLiteral("No se ha podido establecer la aplicación de correo electrónico.");
 
-// Toolbar buttons by their place, the leading separator counted as 1.
-constexpr int kBotonCarac = 5;
-constexpr int kBotonFlexionR = 6;
-constexpr int kBotonFlexionT = 7;
-constexpr int kBotonConfina = 8;
-constexpr int kBotonAyuda = 9;
-constexpr int kBotonGuia = 10;
-constexpr int kBotonWeb = 11;
-constexpr int kBotonMail = 12;
-
 }  // namespace
 
 // How the user gives a command: the menu with the mouse, or the toolbar.
@@ -42,14 +32,16 @@ Q_DECLARE_METATYPE(Via)
 class PruebaAyuda : public prueba::PruebaDePrincipal {
     Q_OBJECT
 
-    void Orden(Via via, const char* entrada, int boton)
+    // A command of the Ayuda menu, chosen with the mouse in the menu or on the toolbar button
+    // of that key.
+    void Pide(Via via, const char* entrada, const char* clave)
     {
         MdiPrincipal& w = *ventana_;
         if (via == Via::Menu) {
             auto* menu = w.menuBar()->findChild<QMenu*>(QStringLiteral("mnuAyuda"));
             QVERIFY(prueba::EligeDelMenu(w.menuBar(), menu, w.ElementoMenu(QString::fromLatin1(entrada))));
         } else {
-            prueba::PulsaEnBarra(w.Barra(), w.Boton(boton));
+            QVERIFY(Boton(clave));
         }
     }
 
@@ -64,11 +56,7 @@ class PruebaAyuda : public prueba::PruebaDePrincipal {
     }
 
 private slots:
-    void cleanup()
-    {
-        ventana_.reset();
-        doble_.reset();
-    }
+    void cleanup() { Termina(); }
 
     void elFicheroDeAyudaYLaGuiaEstanEnLaCarpetaDeDatosDelPrograma()
     {
@@ -96,7 +84,7 @@ private slots:
     {
         QFETCH(Via, via);
         Arranca();
-        Orden(via, "mnuAyudaPrograma", kBotonAyuda);
+        Pide(via, "mnuAyudaPrograma", "Ayuda");
         QCOMPARE(doble_->ayuda.peticiones.size(), std::size_t{1});
         QCOMPARE(doble_->ayuda.peticiones[0].contexto, 0);
         QVERIFY(doble_->mensajes.mostrados.empty());
@@ -104,28 +92,28 @@ private slots:
 
     void ayudaConCadaPantallaMuestraSuTema_data()
     {
-        QTest::addColumn<int>("botonPantalla");
+        QTest::addColumn<QString>("botonPantalla");
         QTest::addColumn<Via>("via");
         QTest::addColumn<int>("contexto");
-        const std::pair<const char*, std::pair<int, int>> pantallas[] = {
-            {"FM_CARAC", {kBotonCarac, 31}},
-            {"FM_FLEXION", {kBotonFlexionR, 32}},
-            {"FM_CONFINA", {kBotonConfina, 33}},
-            {"FM_FLEXIONT", {kBotonFlexionT, 34}},
+        const std::pair<const char*, std::pair<const char*, int>> pantallas[] = {
+            {"FM_CARAC", {"Carac", 31}},
+            {"FM_FLEXION", {"FlexionR", 32}},
+            {"FM_CONFINA", {"Confina", 33}},
+            {"FM_FLEXIONT", {"FlexionT", 34}},
         };
         for (const auto& [nombre, datos] : pantallas) {
-            QTest::addRow("%s F1", nombre) << datos.first << Via::Menu << datos.second;
-            QTest::addRow("%s barra", nombre) << datos.first << Via::Barra << datos.second;
+            QTest::addRow("%s F1", nombre) << QString::fromLatin1(datos.first) << Via::Menu << datos.second;
+            QTest::addRow("%s barra", nombre) << QString::fromLatin1(datos.first) << Via::Barra << datos.second;
         }
     }
 
     void ayudaConCadaPantallaMuestraSuTema()
     {
-        QFETCH(int, botonPantalla);
+        QFETCH(QString, botonPantalla);
         QFETCH(Via, via);
         QFETCH(int, contexto);
         MdiPrincipal& w = Arranca();
-        prueba::PulsaEnBarra(w.Barra(), w.Boton(botonPantalla));
+        QVERIFY(Boton(qPrintable(botonPantalla)));
         QTRY_VERIFY(w.PantallaAbierta() != nullptr);
         if (via == Via::Menu) {
             // F1 from wherever the focus is on the screen: its first field.
@@ -133,7 +121,7 @@ private slots:
             QVERIFY(foco != nullptr);
             QTest::keyClick(foco, Qt::Key_F1);
         } else {
-            Orden(via, "mnuAyudaPrograma", kBotonAyuda);
+            Pide(via, "mnuAyudaPrograma", "Ayuda");
         }
         QCOMPARE(doble_->ayuda.peticiones.size(), std::size_t{1});
         QCOMPARE(doble_->ayuda.peticiones[0].fichero, FicheroAyuda());
@@ -142,10 +130,10 @@ private slots:
 
     void conFmConfinaAbiertaElMenuMuestraElTema33()
     {
-        MdiPrincipal& w = Arranca();
-        prueba::PulsaEnBarra(w.Barra(), w.Boton(kBotonConfina));
+        Arranca();
+        QVERIFY(Boton("Confina"));
         QTRY_VERIFY(Estado().F_CONFINA);
-        Orden(Via::Menu, "mnuAyudaPrograma", kBotonAyuda);
+        Pide(Via::Menu, "mnuAyudaPrograma", "Ayuda");
         QCOMPARE(doble_->ayuda.peticiones.size(), std::size_t{1});
         QCOMPARE(doble_->ayuda.peticiones[0].contexto, 33);
     }
@@ -179,7 +167,7 @@ private slots:
     {
         QFETCH(Via, via);
         Arranca();
-        Orden(via, "mnuAyudaManual", kBotonGuia);
+        Pide(via, "mnuAyudaManual", "Guia");
         QCOMPARE(doble_->escritorio.ficheros, QStringList{FicheroGuia()});
         QVERIFY(doble_->mensajes.mostrados.empty());
     }
@@ -190,7 +178,7 @@ private slots:
         QFETCH(Via, via);
         Arranca();
         doble_->escritorio.sinVisor = true;
-        Orden(via, "mnuAyudaManual", kBotonGuia);
+        Pide(via, "mnuAyudaManual", "Guia");
         QCOMPARE(Mensajes(), QStringList{kSinLector});
     }
 
@@ -199,7 +187,7 @@ private slots:
     {
         QFETCH(Via, via);
         Arranca();
-        Orden(via, "mnuAyudaWeb", kBotonWeb);
+        Pide(via, "mnuAyudaWeb", "Web");
         QCOMPARE(doble_->escritorio.direcciones, QStringList{QStringLiteral(TEXALON_WEB)});
         QCOMPARE(DireccionWebVelmora(), QStringLiteral(TEXALON_WEB));
         // Written without a scheme.
@@ -213,7 +201,7 @@ private slots:
         QFETCH(Via, via);
         Arranca();
         doble_->escritorio.sinNavegador = true;
-        Orden(via, "mnuAyudaWeb", kBotonWeb);
+        Pide(via, "mnuAyudaWeb", "Web");
         QCOMPARE(Mensajes(), QStringList{kSinNavegador});
     }
 
@@ -222,7 +210,7 @@ private slots:
     {
         QFETCH(Via, via);
         Arranca();
-        Orden(via, "mnuAyudaContactar", kBotonMail);
+        Pide(via, "mnuAyudaContactar", "Mail");
         QCOMPARE(doble_->correo.inicios, 1);
         QCOMPARE(doble_->correo.mensajes.size(), std::size_t{1});
         QCOMPARE(doble_->correo.mensajes[0].asunto, QStringLiteral("INFORMACION SOBRE EL SISTEMA DE REFUERZO TEXALON®"));
@@ -234,8 +222,8 @@ private slots:
     void dosCorreosEnUnaEjecucionUnSoloInicioDeSesion()
     {
         Arranca();
-        Orden(Via::Menu, "mnuAyudaContactar", kBotonMail);
-        Orden(Via::Barra, "mnuAyudaContactar", kBotonMail);
+        Pide(Via::Menu, "mnuAyudaContactar", "Mail");
+        Pide(Via::Barra, "mnuAyudaContactar", "Mail");
         QCOMPARE(doble_->correo.inicios, 1);
         QCOMPARE(doble_->correo.mensajes.size(), std::size_t{2});
         QVERIFY(Estado().F_MAPI);
@@ -245,13 +233,13 @@ private slots:
     {
         Arranca();
         doble_->correo.fallaInicio = true;
-        Orden(Via::Barra, "mnuAyudaContactar", kBotonMail);
+        Pide(Via::Barra, "mnuAyudaContactar", "Mail");
         QCOMPARE(Mensajes(), QStringList{kSinCorreo});
         QVERIFY(!Estado().F_MAPI);
         QVERIFY(doble_->correo.mensajes.empty());
         // The next mail tries the sign-on again.
         doble_->correo.fallaInicio = false;
-        Orden(Via::Barra, "mnuAyudaContactar", kBotonMail);
+        Pide(Via::Barra, "mnuAyudaContactar", "Mail");
         QCOMPARE(doble_->correo.inicios, 2);
         QVERIFY(Estado().F_MAPI);
     }
@@ -260,11 +248,11 @@ private slots:
     {
         Arranca();
         doble_->correo.fallaEnvio = true;
-        Orden(Via::Menu, "mnuAyudaContactar", kBotonMail);
+        Pide(Via::Menu, "mnuAyudaContactar", "Mail");
         QCOMPARE(Mensajes(), QStringList{kSinCorreo});
         QVERIFY(Estado().F_MAPI);
         doble_->correo.fallaEnvio = false;
-        Orden(Via::Menu, "mnuAyudaContactar", kBotonMail);
+        Pide(Via::Menu, "mnuAyudaContactar", "Mail");
         QCOMPARE(doble_->correo.inicios, 1);
         QCOMPARE(Mensajes(), QStringList{kSinCorreo});
     }
@@ -272,7 +260,7 @@ private slots:
     void salirCierraLaSesionDeCorreo()
     {
         MdiPrincipal& w = Arranca();
-        Orden(Via::Barra, "mnuAyudaContactar", kBotonMail);
+        Pide(Via::Barra, "mnuAyudaContactar", "Mail");
         QTest::keyClick(&w, Qt::Key_F7);
         QCOMPARE(doble_->correo.cierres, 1);
         QVERIFY(!Estado().F_MAPI);
@@ -282,7 +270,7 @@ private slots:
     void cerrarLaVentanaPrincipalCierraLaSesionDeCorreo()
     {
         MdiPrincipal& w = Arranca();
-        Orden(Via::Barra, "mnuAyudaContactar", kBotonMail);
+        Pide(Via::Barra, "mnuAyudaContactar", "Mail");
         w.close();
         QCOMPARE(doble_->correo.cierres, 1);
         QVERIFY(!Estado().F_MAPI);

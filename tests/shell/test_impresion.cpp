@@ -242,36 +242,6 @@ struct DialogoVisto {
 class PruebaImpresion : public prueba::PruebaDePrincipal {
     Q_OBJECT
 
-    // A number as the machine in use writes it; the test data are written with a comma.
-    QString Sep(const char* texto) const
-    {
-        QString s = QString::fromUtf8(texto);
-        if (doble_->regional.separador == '.') s.replace(QLatin1Char(','), QLatin1Char('.'));
-        return s;
-    }
-
-    // Runs a menu item as the user's choice would; tells whether it was available.
-    bool Orden(const char* nombre)
-    {
-        QAction* accion = ventana_->ElementoMenu(QString::fromLatin1(nombre));
-        if (accion == nullptr) qFatal("no hay elemento de menú %s", nombre);
-        const bool activo = accion->isEnabled();
-        accion->trigger();
-        return activo;
-    }
-
-    // A click on the toolbar button of that key; tells whether it was available.
-    bool Boton(const char* clave)
-    {
-        for (QAction* accion : ventana_->Barra()->actions())
-            if (accion->data().toString() == QLatin1String(clave)) {
-                const bool activo = accion->isEnabled();
-                QTest::mouseClick(ventana_->Barra()->widgetForAction(accion), Qt::LeftButton);
-                return activo;
-            }
-        qFatal("no hay botón %s", clave);
-    }
-
     // Print as the user asks for it: the menu, the toolbar button or Ctrl+I from wherever the
     // focus is. Tells whether the command was available.
     bool Imprime(const QString& via)
@@ -284,11 +254,6 @@ class PruebaImpresion : public prueba::PruebaDePrincipal {
         return ventana_->ElementoMenu(QStringLiteral("mnuPrincipalImprimir"))->isEnabled();
     }
 
-    Formulario* Abierta() const
-    {
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-        return ventana_->PantallaAbierta();
-    }
     QWidget* C(const char* nombre) const { return Abierta()->Control(QString::fromLatin1(nombre)); }
     QString Texto(const char* nombre) const { return TextoDe(C(nombre)); }
 

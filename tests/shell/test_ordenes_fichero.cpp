@@ -125,14 +125,6 @@ class PruebaOrdenesFichero : public prueba::PruebaDePrincipal {
 
     std::unique_ptr<QTemporaryDir> carpeta_;
 
-    // A number of the screens, written with the separator of the machine's setting in use.
-    QString Sep(const char* texto) const
-    {
-        QString s = QString::fromUtf8(texto);
-        if (doble_->regional.separador == '.') s.replace(QLatin1Char(','), QLatin1Char('.'));
-        return s;
-    }
-
     QString Ruta(const char* nombre) const { return carpeta_->filePath(QString::fromUtf8(nombre)); }
 
     static void Crea(const QString& ruta, const QByteArray& contenido)
@@ -160,28 +152,6 @@ class PruebaOrdenesFichero : public prueba::PruebaDePrincipal {
     }
     void Cancela() { doble_->ficheros.respuestas.push_back(std::nullopt); }
 
-    // Runs a menu item as the user's choice would; tells whether it was available.
-    bool Orden(const char* nombre)
-    {
-        QAction* accion = ventana_->ElementoMenu(QString::fromLatin1(nombre));
-        if (accion == nullptr) qFatal("no hay elemento de menú %s", nombre);
-        const bool activo = accion->isEnabled();
-        accion->trigger();
-        return activo;
-    }
-
-    // A click on the toolbar button of that key; tells whether it was available.
-    bool Boton(const char* clave)
-    {
-        for (QAction* accion : ventana_->Barra()->actions())
-            if (accion->data().toString() == QLatin1String(clave)) {
-                const bool activo = accion->isEnabled();
-                QTest::mouseClick(ventana_->Barra()->widgetForAction(accion), Qt::LeftButton);
-                return activo;
-            }
-        qFatal("no hay botón %s", clave);
-    }
-
     // A command by the name of its menu item ("mnuPrincipalGuardar") or the key of its toolbar
     // button ("Guardar").
     bool Ejecuta(const QString& orden)
@@ -189,12 +159,6 @@ class PruebaOrdenesFichero : public prueba::PruebaDePrincipal {
         return orden.startsWith(QLatin1String("mnu")) ? Orden(qPrintable(orden)) : Boton(qPrintable(orden));
     }
 
-    // The screen open now; the child windows that have closed are gone by then.
-    Formulario* Abierta() const
-    {
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-        return ventana_->PantallaAbierta();
-    }
     QString NombreAbierta() const
     {
         Formulario* pantalla = Abierta();

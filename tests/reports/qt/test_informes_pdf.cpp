@@ -162,23 +162,17 @@ private:
 
 // ---- What the PDF holds, read by poppler.
 
-// A word of a PDF page, as pdftotext finds it: its page from 1 and its box's left, top and right
-// in centimetres from the printable area's top-left corner (the PDF printer's margin taken off).
-// The top of the box is the top of the line of text, where the printer put the position.
-struct Palabra {
-    QString texto;
-    int pagina = 0;
-    double x = 0.0;
-    double y = 0.0;
-    double derecha = 0.0;
+// A word of a PDF page, its box measured from the printable area's top-left corner (the PDF
+// printer's margin taken off), where the printer put the position.
+struct Palabra : prueba::PalabraPdf {
     bool impresa = false;  // matched with the words of the printed texts
 };
 
 std::vector<Palabra> Palabras(const QString& pdf)
 {
     std::vector<Palabra> palabras;
-    for (const prueba::PalabraPdf& p : prueba::PalabrasPdf(pdf))
-        palabras.push_back({p.texto, p.pagina, p.x - kMargenPdf, p.y - kMargenPdf, p.derecha - kMargenPdf});
+    for (const prueba::PalabraPdf& palabra : prueba::PalabrasPdf(pdf, kMargenPdf))
+        palabras.push_back({palabra});
     return palabras;
 }
 
