@@ -153,7 +153,7 @@ void GuardaSvg(CalculoFichero& calculo, ListaDiagrama& lista, const Orden& orden
     const std::string destino = FicheroSvg(*orden.carpetaSvg, calculo.fichero, *orden.diagrama);
     std::error_code sinExcepcion;
     std::filesystem::create_directories(*orden.carpetaSvg, sinExcepcion);
-    if (!escritorSvg || !escritorSvg(lista.d, lista.pantalla, lista.isotropico, destino))
+    if (!escritorSvg || !escritorSvg(lista.d, *lista.dibujo, lista.isotropico, destino))
         calculo.errores.push_back("no se ha podido escribir el diagrama en «" + destino + "».");
 }
 

@@ -3,7 +3,7 @@
 // apart from the process around it, so that the tests call it just as main does.
 #pragma once
 
-#include "diagrams/Dibujante.h"
+#include "diagrams/qt/Dibujos.h"
 #include "platform/Impresora.h"
 #include "state/General.h"
 
@@ -19,11 +19,11 @@ constexpr int kSalidaCorrecta = 0;  // every file calculated, or the help shown
 constexpr int kSalidaConFallos = 1;  // some file could not be read, calculated, drawn or written
 constexpr int kSalidaErrorDeUso = 2;  // no file, or an option the command does not know or a bad value
 
-// Writes a display list as the picture of `pantalla` shows it to the SVG file `fichero`, and
-// says whether it could. The picture belongs to the program around the command, which brings
-// the windowing toolkit that measures the texts.
+// Writes a display list as the picture `dibujo` shows it to the SVG file `fichero`, and says
+// whether it could. The writer belongs to the program around the command, which brings the
+// windowing toolkit that measures the texts.
 using EscritorSvg =
-    std::function<bool(GeneralDibujo& d, Pantalla pantalla, Entero isotropico, const std::string& fichero)>;
+    std::function<bool(const GeneralDibujo& d, const Dibujo& dibujo, Entero isotropico, const std::string& fichero)>;
 
 // Runs `imprime` on a printer that writes the PDF file `fichero` with no dialog; false when no
 // such printer can be had.

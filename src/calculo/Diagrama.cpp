@@ -3,6 +3,7 @@
 #include "calculo/Texto.h"
 
 #include "diagrams/Grafico.h"
+#include "diagrams/Lista.h"
 #include "engine/Calculos.h"
 #include "engine/Caracteristicas.h"
 #include "state/ErrorEjecucion.h"
@@ -64,7 +65,7 @@ std::string MensajeCeldaSinResultado(const General& g, const PeticionDiagrama& p
 using Procedimiento = void (*)(const General&, GeneralDibujo&, char);
 
 // A flexure diagram with its two procedures: the T section has its twin, named with a "T" at
-// the end, which draws on the T screen.
+// the end.
 struct Gemelos {
     std::string_view nombre;
     Procedimiento rectangular;
@@ -78,14 +79,12 @@ Gemelos GemelosDe(Diagrama diagrama)
     return {"DibujaSeccion", DibujaSeccion, DibujaSeccionT};
 }
 
-// The section drawings keep the section's proportions; the charts take a scale in each direction.
-constexpr Entero kIsotropico = 1;
-constexpr Entero kAnisotropico = 0;
-
-void Describe(ListaDiagrama& lista, std::string procedimiento, Pantalla pantalla, Entero isotropico)
+// The section drawings keep the section's proportions (kIsotropico); the charts take a scale in
+// each direction.
+void Describe(ListaDiagrama& lista, std::string procedimiento, const Dibujo& dibujo, Entero isotropico)
 {
     lista.procedimiento = std::move(procedimiento);
-    lista.pantalla = pantalla;
+    lista.dibujo = &dibujo;
     lista.isotropico = isotropico;
 }
 
@@ -93,19 +92,18 @@ void DibujaFlexion(CalculoFichero& calculo, const PeticionDiagrama& peticion, ch
 {
     General& g = calculo.g;
     const bool esT = calculo.seccion == kSeccionT;
-    const Pantalla pantalla = esT ? Pantalla::FlexionT : Pantalla::Flexion;
     const std::string sufijo = esT ? "T" : "";
     if (peticion.diagrama == Diagrama::Pivotes) {
         // The cell's results as the screen's fields show them, which the strain plane reads.
         const ResultadosCeldaFlexion celda = ResultadosFlexion(g, peticion.tipo, peticion.capas, separador);
         (esT ? DiagramaPivotesT : DiagramaPivotes)(g, lista.d, celda, separador);
-        Describe(lista, "DiagramaPivotes" + sufijo, pantalla, kAnisotropico);
+        Describe(lista, "DiagramaPivotes" + sufijo, kPicFlexion, kAnisotropico);
         return;
     }
     const Gemelos gemelos = GemelosDe(peticion.diagrama);
     (esT ? gemelos.t : gemelos.rectangular)(g, lista.d, separador);
     const Entero isotropico = peticion.diagrama == Diagrama::Seccion ? kIsotropico : kAnisotropico;
-    Describe(lista, std::string(gemelos.nombre) + sufijo, pantalla, isotropico);
+    Describe(lista, std::string(gemelos.nombre) + sufijo, kPicFlexion, isotropico);
 }
 
 // Runs the procedure of the diagram for the file's kind of project.
@@ -116,15 +114,15 @@ void Dibuja(CalculoFichero& calculo, const PeticionDiagrama& peticion, char sepa
         // As the characteristics screen does before it draws: EPSD of the type in hand.
         CargaCaracteristicas(g, peticion.tipo);
         DiagramaTension(g, lista.d, static_cast<Entero>(peticion.tipo), separador);
-        Describe(lista, "DiagramaTension", Pantalla::Carac, kAnisotropico);
+        Describe(lista, "DiagramaTension", kPicCarac, kAnisotropico);
     } else if (calculo.clase == ClaseFichero::Flexion) {
         DibujaFlexion(calculo, peticion, separador, lista);
     } else if (peticion.diagrama == Diagrama::Confinamiento) {
         DiagramaConfina(g, lista.d, separador);
-        Describe(lista, "DiagramaConfina", Pantalla::Confina, kAnisotropico);
+        Describe(lista, "DiagramaConfina", kPicConfina, kAnisotropico);
     } else {
         DibujaSeccionConfina(g, lista.d, separador);
-        Describe(lista, "DibujaSeccionConfina", Pantalla::Confina, kIsotropico);
+        Describe(lista, "DibujaSeccionConfina", kPicConfina, kIsotropico);
     }
 }
 

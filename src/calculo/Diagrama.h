@@ -3,7 +3,7 @@
 #pragma once
 
 #include "calculo/Proyecto.h"
-#include "diagrams/Dibujante.h"
+#include "diagrams/qt/Dibujos.h"
 #include "state/General.h"
 
 #include <optional>
@@ -43,8 +43,8 @@ struct PeticionDiagrama {
 // The list a diagram procedure has left, and how its screen shows it.
 struct ListaDiagrama {
     std::string procedimiento;  // the procedure's name: "DiagramaMomentoCapasT"
-    Pantalla pantalla = Pantalla::Flexion;  // the picture it draws on
-    Entero isotropico = 0;
+    const Dibujo* dibujo = &kPicFlexion;  // the picture of the screen that shows it
+    Entero isotropico = 0;  // the fit the screen gives it
     GeneralDibujo d;
 };
 

@@ -1,6 +1,6 @@
 // texalon-calculo: calculates TEXALON project files from the command line.
 #include "calculo/Calculo.h"
-#include "diagrams/qt/Lienzo.h"
+#include "diagrams/qt/Svg.h"
 #include "platform/qt/ImpresoraQt.h"
 
 #include <QApplication>
@@ -68,10 +68,10 @@ int main(int argc, char* argv[])
     const char separador = SeparadorDelSistema();
     Aplicacion aplicacion;
     texalon::calculo::Dispositivos dispositivos;
-    dispositivos.svg = [&aplicacion](texalon::GeneralDibujo& d, texalon::Pantalla pantalla, texalon::Entero isotropico,
-                                     const std::string& fichero) {
+    dispositivos.svg = [&aplicacion](const texalon::GeneralDibujo& d, const texalon::Dibujo& dibujo,
+                                     texalon::Entero isotropico, const std::string& fichero) {
         aplicacion.Arranca();
-        return texalon::EscribeSvg(d, pantalla, isotropico, QString::fromStdString(fichero));
+        return texalon::EscribeSvg(d, dibujo.tamano, isotropico, QString::fromStdString(fichero));
     };
     dispositivos.pdf = [&aplicacion](const std::string& fichero,
                                      const std::function<void(texalon::plataforma::Impresora&)>& imprime) {

@@ -84,8 +84,6 @@ void DiagramaConfina(const General& g, GeneralDibujo& d, char separador)
     NombreEje(d, 0.0, top * 1.2, "Incr. resistencia");
     Titulo(d, g.MAXCAPAS / 2.0, top * 1.3, "DIAGRAMA DE CONFINAMIENTO");
     LeyendaConfina(g, d, T);
-
-    DibujaEnPantalla(Pantalla::Confina, d, 0);
 }
 
 }  // namespace texalon

@@ -88,8 +88,7 @@ CeldaPivotes LeeCelda(const ResultadosCeldaFlexion& celda, char separador)
 
 std::string PorMil(double valor, char separador) { return Formato(valor, "0.00", separador) + "‰"; }
 
-void DiagramaPivotesEn(Pantalla pantalla, General& g, GeneralDibujo& d, const ResultadosCeldaFlexion& celda,
-                       char separador)
+void DiagramaPivotesDeCelda(General& g, GeneralDibujo& d, const ResultadosCeldaFlexion& celda, char separador)
 {
     NuevaLista(d);
     d.F_PIVOTES = true;
@@ -132,20 +131,18 @@ void DiagramaPivotesEn(Pantalla pantalla, General& g, GeneralDibujo& d, const Re
     AnadeTexto(d, Clase::Texto, xr - 0.5, 0.0, kRojo, 8, false, "R");
     AnadeTexto(d, Clase::Texto, -10.5, r, kRojo, 8, false, "A");
     Titulo(d, -13.5 / 4.0, h * 1.2, "DIAGRAMA DE PIVOTES");
-
-    DibujaEnPantalla(pantalla, d, 0);
 }
 
 }  // namespace
 
 void DiagramaPivotes(General& g, GeneralDibujo& d, const ResultadosCeldaFlexion& celda, char separador)
 {
-    DiagramaPivotesEn(Pantalla::Flexion, g, d, celda, separador);
+    DiagramaPivotesDeCelda(g, d, celda, separador);
 }
 
 void DiagramaPivotesT(General& g, GeneralDibujo& d, const ResultadosCeldaFlexion& celda, char separador)
 {
-    DiagramaPivotesEn(Pantalla::FlexionT, g, d, celda, separador);
+    DiagramaPivotesDeCelda(g, d, celda, separador);
 }
 
 }  // namespace texalon

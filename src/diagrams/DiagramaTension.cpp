@@ -1,4 +1,4 @@
-// The stress-strain chart of the characteristics screen: the straight lines of every sheet type
+// The stress-strain chart of the sheet: the straight lines of every sheet type
 // up to rupture, the type in hand drawn in full with its design points for 1 to MAXCAPAS layers.
 // Strains are plain ratios in the list and per mil on the labels; stresses are in N/mm².
 #include "diagrams/Grafico.h"
@@ -113,8 +113,6 @@ void DiagramaTension(const General& g, GeneralDibujo& d, Entero tipo, char separ
     NombreEje(d, EX / 20.0 + EX, 0.0, "Def (‰)");
     NombreEje(d, 0.0, SY / 20.0 + SY, "Tensión (N/mm²)");
     Titulo(d, EX / 1.75, SY * 1.25, "DIAGRAMA TENSION-DEFORMACION");
-
-    DibujaEnPantalla(Pantalla::Carac, d, 0);
 }
 
 }  // namespace texalon

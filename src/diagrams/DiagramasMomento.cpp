@@ -3,7 +3,8 @@
 //
 // The horizontal axis of both is the moment less the least moment in play (nearly always the
 // unreinforced MUSR), and its tick labels add that least moment back. Moments are in mkN, areas
-// in mm². The T section's twins differ only in the screen they draw on.
+// in mm². The T section's twins draw the very same lists: the section's shape is already in
+// the moments.
 #include "diagrams/Grafico.h"
 
 #include "diagrams/Lista.h"
@@ -90,7 +91,7 @@ void LeyendaMomentos(const General& g, GeneralDibujo& d, const Rango& r, double 
 // Moment against area. The first segment of a type, from the unreinforced section to one
 // layer, is drawn without looking for the mark, and so runs far to the left when one layer
 // already brings nothing.
-void MomentoArea(const General& g, GeneralDibujo& d, Pantalla pantalla, char separador)
+void MomentoArea(const General& g, GeneralDibujo& d, char separador)
 {
     NuevaLista(d);
     d.F_MOMENTOS = true;
@@ -122,14 +123,12 @@ void MomentoArea(const General& g, GeneralDibujo& d, Pantalla pantalla, char sep
     NombreEje(d, 0.0, r.maxA * 1.2, "Ar (mm²)");
     TituloMomentos(d, r, r.maxA * 1.35);
     LeyendaMomentos(g, d, r, -r.maxA / 5.0);
-
-    DibujaEnPantalla(pantalla, d, 0);
 }
 
 // Moment against layers, a stepped curve per type. Each type is raised by a tenth of a layer
 // over the one before, to keep the curves apart where they run together. A pair of layer
 // counts with a mark draws nothing, the step from the unreinforced section included.
-void MomentoCapas(const General& g, GeneralDibujo& d, Pantalla pantalla, char separador)
+void MomentoCapas(const General& g, GeneralDibujo& d, char separador)
 {
     NuevaLista(d);
     d.F_CAPAS = true;
@@ -163,30 +162,28 @@ void MomentoCapas(const General& g, GeneralDibujo& d, Pantalla pantalla, char se
     NombreEje(d, 0.0, g.MAXCAPAS * 1.25, "Nº capas");
     TituloMomentos(d, r, g.MAXCAPAS * 1.35);
     LeyendaMomentos(g, d, r, -H / 5.0);
-
-    DibujaEnPantalla(pantalla, d, 0);
 }
 
 }  // namespace
 
 void DiagramaMomentoArea(const General& g, GeneralDibujo& d, char separador)
 {
-    MomentoArea(g, d, Pantalla::Flexion, separador);
+    MomentoArea(g, d, separador);
 }
 
 void DiagramaMomentoAreaT(const General& g, GeneralDibujo& d, char separador)
 {
-    MomentoArea(g, d, Pantalla::FlexionT, separador);
+    MomentoArea(g, d, separador);
 }
 
 void DiagramaMomentoCapas(const General& g, GeneralDibujo& d, char separador)
 {
-    MomentoCapas(g, d, Pantalla::Flexion, separador);
+    MomentoCapas(g, d, separador);
 }
 
 void DiagramaMomentoCapasT(const General& g, GeneralDibujo& d, char separador)
 {
-    MomentoCapas(g, d, Pantalla::FlexionT, separador);
+    MomentoCapas(g, d, separador);
 }
 
 }  // namespace texalon

@@ -1,29 +1,30 @@
 // The diagram procedures: every chart and section drawing of the program, written as a display
-// list (Lista.h) and shown on the picture of its screen (Dibujante.h).
+// list (Lista.h).
 //
-// Each procedure allocates the list anew, sets its diagram flags, writes its elements in the
-// order axes, curves or bars, grid, marker, tick labels, axis names, title, legend, and ends by
-// drawing the list on its screen's picture. They read the project state and write the drawing
-// state; `separador` is the machine's decimal separator of the texts. The rectangular and T
-// twins keep their names and share one body.
+// Each procedure allocates the list anew, sets its diagram flags and writes its elements in the
+// order axes, curves or bars, grid, marker, tick labels, axis names, title, legend. That is all
+// it does: whoever called it shows the list, on a screen's picture, on paper or in a file, with
+// the isotropic setting given below for each (kIsotropico for the section drawings). They read
+// the project state and write the list and the flags of the drawing state; `separador` is the
+// machine's decimal separator of the texts. The rectangular and T twins keep their names and
+// share one body.
 #pragma once
 
-#include "diagrams/Dibujante.h"
 #include "engine/Caracteristicas.h"
 #include "state/General.h"
 
 namespace texalon {
 
 // The stress-strain lines of every sheet type, the type `tipo` in full with its design points
-// (EPSD must hold that type's design strains). PIC_CARAC, isotropic 0; no flag is touched.
+// (EPSD must hold that type's design strains). Isotropic 0; no flag is touched.
 void DiagramaTension(const General& g, GeneralDibujo& d, Entero tipo, char separador);
 
 // Grouped bars of the increase of strength reached, by layers and type, and the marker of
-// INCR. PIC_CONFINA, isotropic 0; clears F_SECCION.
+// INCR. Isotropic 0; clears F_SECCION.
 void DiagramaConfina(const General& g, GeneralDibujo& d, char separador);
 
 // Ultimate moment against sheet area (F_MOMENTOS) and against layers (F_CAPAS), with the
-// marker of MD. PIC_FLEXION of FM_FLEXION or FM_FLEXIONT, isotropic 0.
+// marker of MD. Isotropic 0.
 void DiagramaMomentoArea(const General& g, GeneralDibujo& d, char separador);
 void DiagramaMomentoAreaT(const General& g, GeneralDibujo& d, char separador);
 void DiagramaMomentoCapas(const General& g, GeneralDibujo& d, char separador);

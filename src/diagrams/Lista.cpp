@@ -115,12 +115,12 @@ void Titulo(GeneralDibujo& d, double x, double y, const std::string& texto)
     AnadeTexto(d, Clase::Texto, x, y, kNegro, 12, true, texto);
 }
 
-Encuadre Ajusta(GeneralDibujo& d, double ancho, double alto, Entero isotropico, double margenIzquierdo,
-                double margenSuperior)
+Encuadre Encuadra(const GeneralDibujo& d, double ancho, double alto, Entero isotropico, double margenIzquierdo,
+                  double margenSuperior)
 {
-    d.ANCHOPIC = ancho;
-    d.ALTOPIC = alto;
     Encuadre e;
+    e.ancho = ancho;
+    e.alto = alto;
     double xmax = Campo(d, 1, campo::kX1);
     double ymax = Campo(d, 1, campo::kY1);
     e.xmin = xmax;
@@ -137,21 +137,40 @@ Encuadre Ajusta(GeneralDibujo& d, double ancho, double alto, Entero isotropico, 
     }
     const double dx = std::abs(xmax - e.xmin);
     const double dy = std::abs(ymax - e.ymin);
-    d.ESCALAX = dx == 0.0 ? 0.0 : ancho * 0.8 / dx;
-    d.ESCALAY = dy == 0.0 ? 0.0 : alto * 0.8 / dy;
-    if (isotropico == 1) {
-        if (d.ESCALAY > d.ESCALAX)
-            d.ESCALAY = d.ESCALAX;
+    e.escalaX = dx == 0.0 ? 0.0 : ancho * 0.8 / dx;
+    e.escalaY = dy == 0.0 ? 0.0 : alto * 0.8 / dy;
+    if (isotropico == kIsotropico) {
+        if (e.escalaY > e.escalaX)
+            e.escalaY = e.escalaX;
         else
-            d.ESCALAX = d.ESCALAY;
+            e.escalaX = e.escalaY;
     }
-    e.escalaX = d.ESCALAX;
-    e.escalaY = d.ESCALAY;
     e.ox = (ancho - dx * e.escalaX) / 2.0 + margenIzquierdo;
     e.oy = (alto + margenSuperior) - (alto - dy * e.escalaY) / 2.0;
     return e;
 }
 
+Encuadre Ajusta(GeneralDibujo& d, double ancho, double alto, Entero isotropico, double margenIzquierdo,
+                double margenSuperior)
+{
+    const Encuadre e = Encuadra(d, ancho, alto, isotropico, margenIzquierdo, margenSuperior);
+    d.ANCHOPIC = e.ancho;
+    d.ALTOPIC = e.alto;
+    d.ESCALAX = e.escalaX;
+    d.ESCALAY = e.escalaY;
+    return e;
+}
+
 Encuadre AjustaGuardado(GeneralDibujo& d, Entero isotropico) { return Ajusta(d, d.ANCHOPIC, d.ALTOPIC, isotropico); }
+
+EsquinaTexto ColocaTexto(Clase clase, double x, double y, double ancho, double alto)
+{
+    const double arriba = y - alto / 2;
+    switch (clase) {
+    case Clase::TextoIzquierda: return {x - ancho * 4 / 3, arriba};
+    case Clase::TextoDerecha: return {x + ancho / 3, arriba};
+    default: return {x - ancho / 2, arriba};
+    }
+}
 
 }  // namespace texalon

@@ -80,9 +80,16 @@ void Titulo(GeneralDibujo& d, double x, double y, const std::string& texto);  //
 
 // ---- The fit, common to every renderer.
 
-// How world units map to a target: X(x) = (x - xmin) × ESCALAX + ox, Y(y) = oy - (y - ymin)
-// × ESCALAY. World y grows upward, target y downward.
+// The isotropic setting of a fit: one scale in both directions for the section drawings, a
+// scale of its own in each direction for the charts. Any value other than 1 counts as 0.
+constexpr Entero kIsotropico = 1;
+constexpr Entero kAnisotropico = 0;
+
+// How world units map to a target area of `ancho` × `alto`: X(x) = (x - xmin) × ESCALAX + ox,
+// Y(y) = oy - (y - ymin) × ESCALAY. World y grows upward, target y downward.
 struct Encuadre {
+    double ancho = 0.0;
+    double alto = 0.0;
     double xmin = 0.0;
     double ymin = 0.0;
     double escalaX = 0.0;
@@ -95,15 +102,32 @@ struct Encuadre {
 };
 
 // The fit of the list into an area of `ancho` × `alto` (pixels on screen, centimetres on
-// paper): stores the size in ANCHOPIC and ALTOPIC and the factors in ESCALAX and ESCALAY.
-// The box starts at element 1 and takes fields 2 to 5 of every element whatever its kind, so
-// that texts and points reach to the origin and the origin always lies inside it. The box
-// fills 80 % of the area, centred; `isotropico` 1 keeps one scale for both directions, any
-// other value lets each have its own. On paper the margins shift the box on the page.
+// paper). The box starts at element 1 and takes fields 2 to 5 of every element whatever its
+// kind, so that texts and points reach to the origin and the origin always lies inside it. The
+// box fills 80 % of the area, centred; `isotropico` 1 keeps one scale for both directions, any
+// other value lets each have its own. On paper the margins shift the box on the page. Nothing
+// is stored: a picture drawn for a file leaves the drawing state as it is.
+Encuadre Encuadra(const GeneralDibujo& d, double ancho, double alto, Entero isotropico, double margenIzquierdo = 0.0,
+                  double margenSuperior = 0.0);
+
+// The same fit, stored as the renderers of the screen and the paper leave it: the area in
+// ANCHOPIC and ALTOPIC, the factors in ESCALAX and ESCALAY.
 Encuadre Ajusta(GeneralDibujo& d, double ancho, double alto, Entero isotropico, double margenIzquierdo = 0.0,
                 double margenSuperior = 0.0);
 
 // The same fit with the ANCHOPIC and ALTOPIC in store, as the redrawing after a zoom does.
 Encuadre AjustaGuardado(GeneralDibujo& d, Entero isotropico);
+
+// ---- Texts on a target.
+
+// The top-left corner of a text `ancho` × `alto` anchored at (x, y) by its kind: vertically
+// centred; centred on the anchor (kind 3), ending a third of its width left of it (kind 4) or
+// starting a third of its width right of it (kind 8). The picture and the paper both place
+// their texts so.
+struct EsquinaTexto {
+    double izquierda;
+    double arriba;
+};
+EsquinaTexto ColocaTexto(Clase clase, double x, double y, double ancho, double alto);
 
 }  // namespace texalon

@@ -165,7 +165,7 @@ void TextosFlexion(const General& g, GeneralDibujo& d, const MedidasFlexion& m, 
     Titulo(d, b / 2.0, u / 2.0 + h, kTitulo);
 }
 
-void DibujaSeccionFlexion(Pantalla pantalla, const General& g, GeneralDibujo& d, char separador, bool enT)
+void DibujaSeccionFlexion(const General& g, GeneralDibujo& d, char separador, bool enT)
 {
     NuevaLista(d);
     d.F_SECCION = true;
@@ -177,14 +177,12 @@ void DibujaSeccionFlexion(Pantalla pantalla, const General& g, GeneralDibujo& d,
     CuerpoFlexion(g, d, m);
     CotasFlexion(d, m);
     TextosFlexion(g, d, m, separador);
-
-    DibujaEnPantalla(pantalla, d, 1);
 }
 
 // ---- Wrapped columns: the concrete in grey within the sheet in red, D = DIAM.
 
 // The section of width D and height `alto` at a rim of 0.02 D inside the sheet. The grey one
-// comes first, so that it stays in front of the red one on screen.
+// comes first, so that it stays in front of the red one where the shapes are filled.
 void Envuelta(GeneralDibujo& d, Clase clase, double D, double alto)
 {
     AnadeForma(d, clase, D * 0.02, D * 0.02 + alto, D * 0.02 + D, D * 0.02, kGris);
@@ -238,16 +236,16 @@ void Rectangular(const General& g, GeneralDibujo& d, char separador, bool cuadra
 
 void DibujaSeccion(const General& g, GeneralDibujo& d, char separador)
 {
-    DibujaSeccionFlexion(Pantalla::Flexion, g, d, separador, false);
+    DibujaSeccionFlexion(g, d, separador, false);
 }
 
 void DibujaSeccionT(const General& g, GeneralDibujo& d, char separador)
 {
-    DibujaSeccionFlexion(Pantalla::FlexionT, g, d, separador, true);
+    DibujaSeccionFlexion(g, d, separador, true);
 }
 
-// A shape other than 1, 2 or 3 writes no element: the picture still gets the empty list and
-// the flag, as for any section drawing.
+// A shape other than 1, 2 or 3 writes no element: the list is empty and the flag set all the
+// same, as for any section drawing.
 void DibujaSeccionConfina(const General& g, GeneralDibujo& d, char separador)
 {
     NuevaLista(d);
@@ -258,7 +256,6 @@ void DibujaSeccionConfina(const General& g, GeneralDibujo& d, char separador)
     case 3: Rectangular(g, d, separador, false); break;
     default: break;
     }
-    DibujaEnPantalla(Pantalla::Confina, d, 1);
 }
 
 }  // namespace texalon

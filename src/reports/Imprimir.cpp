@@ -58,23 +58,17 @@ void ImprimeLinea(Impresora& impresora, const GeneralDibujo& d, const Encuadre& 
                    e.Y(d.LISTA(i, campo::kY2)), ColorDe(d, i));
 }
 
-// A text of the list, placed by its kind: centred on its anchor, ending a third of its width
-// left of it, or starting a third of its width right of it; vertically centred always.
-void ImprimeTexto(Impresora& impresora, const GeneralDibujo& d, const Encuadre& e, int i, int clase)
+// A text of the list, placed by its kind as on the screen's picture, at the printer's measure of
+// it in the element's font.
+void ImprimeTexto(Impresora& impresora, const GeneralDibujo& d, const Encuadre& e, int i, Clase clase)
 {
     const std::string& texto = d.TEXTOS(i);
     impresora.FontSize(d.LISTA(i, campo::kTamano));
     impresora.FontBold(d.LISTA(i, campo::kNegrita) != 0.0);
-    const double ancho = impresora.TextWidth(texto);
-    double x = e.X(d.LISTA(i, campo::kX1));
-    if (clase == static_cast<int>(Clase::Texto))
-        x -= ancho / 2;
-    else if (clase == static_cast<int>(Clase::TextoIzquierda))
-        x -= ancho * 4 / 3;
-    else
-        x += ancho / 3;
-    impresora.CurrentX(x);
-    impresora.CurrentY(e.Y(d.LISTA(i, campo::kY1)) - impresora.TextHeight(texto) / 2);
+    const EsquinaTexto esquina = ColocaTexto(clase, e.X(d.LISTA(i, campo::kX1)), e.Y(d.LISTA(i, campo::kY1)),
+                                             impresora.TextWidth(texto), impresora.TextHeight(texto));
+    impresora.CurrentX(esquina.izquierda);
+    impresora.CurrentY(esquina.arriba);
     impresora.ForeColor(ColorDe(d, i));
     impresora.Print(texto);
 }
@@ -222,7 +216,7 @@ void ImprimeLista(Impresora& impresora, GeneralDibujo& d, double margenDerecho, 
             break;
         case Clase::Texto:
         case Clase::TextoIzquierda:
-        case Clase::TextoDerecha: ImprimeTexto(impresora, d, e, i, clase); break;
+        case Clase::TextoDerecha: ImprimeTexto(impresora, d, e, i, static_cast<Clase>(clase)); break;
         case Clase::Barra:
         case Clase::RectanguloRedondeado:
         case Clase::Elipse: ImprimeForma(impresora, d, e, i, clase); break;

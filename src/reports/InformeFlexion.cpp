@@ -145,9 +145,11 @@ Impresion InformeSeccion(Impresora& impresora, General& g, GeneralDibujo& d, con
     MarcoPagina(impresora, pagina, seccion.titulo, seccion.logo);
     const double yDatos = DatosGenerales(impresora, pagina, g, seccion, separador);
 
+    Impresion impresion = Impresion::SoloVeredicto;
     if (veredicto != Veredicto::Oculto) {
         ImprimeVeredicto(impresora, yDatos, veredicto);
     } else {
+        impresion = Impresion::ConDiagramas;
         const double yResultados = Resultados(impresora, pagina, celda, separador);
         DiagramasPagina1(impresora, pagina, g, d, celda, yResultados, seccion.enT, separador);
         impresora.NewPage();
@@ -155,7 +157,7 @@ Impresion InformeSeccion(Impresora& impresora, General& g, GeneralDibujo& d, con
         DiagramasPagina2(impresora, pagina, g, d, seccion.enT, separador);
     }
     impresora.EndDoc();
-    return Impresion::Impreso;
+    return impresion;
 }
 
 }  // namespace

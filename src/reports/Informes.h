@@ -32,12 +32,17 @@ inline constexpr char kMensajeCeldaRechazada[] =
 
 // The characteristics of the sheet type chosen on the screen (`tipoElegido` 1 to 3, or 0 when
 // no option is set), whose data and design strains are in the state; the stress-strain diagram
-// is the list that the caller has just drawn.
+// is the list that the caller has just built.
 void InformeCarac(Impresora& impresora, const General& g, GeneralDibujo& d, int tipoElegido, char separador);
 
-// What a flexure report did: printed, or refused for a cell without a result, in which case the
-// caller shows kMensajeCeldaRechazada and nothing reached the printer.
-enum class Impresion { Impreso, CeldaRechazada };
+// What a flexure report did. The diagrams of a report are built on the display list, each then
+// printed; the list holds the last of them when the report ends.
+enum class Impresion {
+    ConDiagramas,  // printed, the results with their diagrams
+    SoloVeredicto,  // printed, the verdict in place of the results: no diagram was built
+    CeldaRechazada,  // a cell without a result: the caller shows kMensajeCeldaRechazada, and
+                     // nothing reached the printer
+};
 
 // The flexure reports of the cell whose texts `celda` holds; `veredicto` is the verdict on
 // show (Oculto when the label is hidden).

@@ -1,6 +1,7 @@
 #include "screens/FmCarac.h"
 
 #include "diagrams/Grafico.h"
+#include "diagrams/Lista.h"
 #include "reports/Informes.h"
 #include "diagrams/qt/Lienzo.h"
 #include "engine/Caracteristicas.h"
@@ -39,7 +40,7 @@ FmCarac::FmCarac(QWidget* padre)
     QGridLayout* rejilla = CreaDisposicion();
     rejilla->addWidget(CreaRefuerzo(), 0, 0);
     rejilla->addWidget(CreaTabla(), 0, 1);
-    rejilla->addWidget(CreaDibujo("PIC_CARAC", Pantalla::Carac), 1, 0, 1, 2);
+    rejilla->addWidget(CreaDibujo(kPicCarac), 1, 0, 1, 2);
     rejilla->setRowStretch(1, 1);
     rejilla->setColumnStretch(1, 1);
     OrdenaTabulacion({"OP_TL", "OP_TH", "OP_TX"});
@@ -172,13 +173,16 @@ void FmCarac::CargaCaracteristicas()
 void FmCarac::DiagramaTension(Entero tipo)
 {
     texalon::DiagramaTension(Estado(), EstadoDibujo(), tipo, plataforma::ServicioRegional().SeparadorDecimal());
+    MuestraDiagrama(kAnisotropico);
 }
 
-void FmCarac::Imprime(plataforma::Impresora& impresora)
+bool FmCarac::Imprime(plataforma::Impresora& impresora)
 {
+    const char separador = plataforma::ServicioRegional().SeparadorDecimal();
     const int tipo = TipoElegido();
-    DiagramaTension(static_cast<Entero>(tipo));
-    InformeCarac(impresora, Estado(), EstadoDibujo(), tipo, plataforma::ServicioRegional().SeparadorDecimal());
+    texalon::DiagramaTension(Estado(), EstadoDibujo(), static_cast<Entero>(tipo), separador);
+    InformeCarac(impresora, Estado(), EstadoDibujo(), tipo, separador);
+    return true;
 }
 
 void FmCarac::closeEvent(QCloseEvent* evento)

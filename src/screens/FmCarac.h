@@ -3,7 +3,6 @@
 // is the choice of the type, and it has no file.
 #pragma once
 
-#include "platform/Impresora.h"
 #include "screens/Formulario.h"
 
 class QRadioButton;
@@ -24,11 +23,12 @@ public:
     void CargaCaracteristicas();
     // The type of the selected option: OP_TL is tested first, then OP_TH, then OP_TX.
     int TipoElegido() const;
-    // The stress-strain diagram of the sheet type `tipo`, whose design strains are in EPSD.
+    // The stress-strain diagram of the sheet type `tipo`, whose design strains are in EPSD,
+    // on the screen's picture.
     void DiagramaTension(Entero tipo);
-    // The characteristics report of the selected option's type, its diagram drawn first so
-    // that the picture printed is that type's. It needs no Calculate.
-    void Imprime(plataforma::Impresora& impresora);
+    // The characteristics report of the selected option's type, its diagram built first so
+    // that the diagram printed is that type's. It needs no Calculate.
+    bool Imprime(plataforma::Impresora& impresora) override;
 
 protected:
     void closeEvent(QCloseEvent* evento) override;

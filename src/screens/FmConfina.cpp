@@ -1,6 +1,7 @@
 #include "screens/FmConfina.h"
 
 #include "diagrams/Grafico.h"
+#include "diagrams/Lista.h"
 #include "reports/Informes.h"
 #include "diagrams/qt/Lienzo.h"
 
@@ -82,7 +83,7 @@ FmConfina::FmConfina(QWidget* padre)
                                    {{"CM_SECCION", "Sección", "boton_seccion"},
                                     {"CM_CONFINA", "Diagrama Capas-Incremento de resistencia", "boton_confina"}}),
                        0, 2, Qt::AlignTop);
-    rejilla->addWidget(CreaDibujoConVeredicto("PIC_CONFINA", Pantalla::Confina,
+    rejilla->addWidget(CreaDibujoConVeredicto(kPicConfina,
                                               QString::fromUtf8(TextoVeredicto(Veredicto::NoSePuede))),
                        1, 1, 2, 2);
     rejilla->setRowStretch(2, 1);
@@ -90,8 +91,9 @@ FmConfina::FmConfina(QWidget* padre)
     OrdenaTabulacion({"CO_SECCION", "TX_DIAM", "TX_LADOMENOR", "TX_INCR", "TX_NCP", "CO_FCK", "CM_GAMMA1",
                       "CM_CALCULAR", "CM_SECCION", "CM_CONFINA", "FG_CONFINA"});
     ActivaResultados(false);
-    ConectaDiagrama("CM_SECCION", [] {
+    ConectaDiagrama("CM_SECCION", [this] {
         DibujaSeccionConfina(Estado(), EstadoDibujo(), plataforma::ServicioRegional().SeparadorDecimal());
+        MuestraDiagrama(kIsotropico);
     });
     ConectaDiagrama("CM_CONFINA", [this] { GraficoDelCalculo(); });
 
@@ -253,10 +255,11 @@ void FmConfina::MuestraCelda(int tipo, int capas) { ResultadosConfina(tipo, capa
 
 void FmConfina::BajaBandera(General& g) { g.F_CONFINA = false; }
 
-void FmConfina::Imprime(plataforma::Impresora& impresora)
+bool FmConfina::Imprime(plataforma::Impresora& impresora)
 {
     InformeConfina(impresora, Estado(), EstadoDibujo(), celdaMostrada_, seccion_->currentIndex(),
                    plataforma::ServicioRegional().SeparadorDecimal());
+    return true;
 }
 
 void FmConfina::CopiaAlEstado()
@@ -272,6 +275,7 @@ void FmConfina::CopiaAlEstado()
 void FmConfina::GraficoDelCalculo()
 {
     DiagramaConfina(Estado(), EstadoDibujo(), plataforma::ServicioRegional().SeparadorDecimal());
+    MuestraDiagrama(kAnisotropico);
 }
 
 bool FmConfina::PideFichero(General& g) const { return PideFicheroConfina(g); }

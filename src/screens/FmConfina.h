@@ -21,7 +21,7 @@ public:
     void CopiaAlEstado() override;
     bool PideFichero(General& g) const override;
     void Graba(General& g) const override;
-    void Imprime(plataforma::Impresora& impresora) override;
+    bool Imprime(plataforma::Impresora& impresora) override;
 
 protected:
     void Aceptado(const ReglaCampo& regla) override;
@@ -29,6 +29,7 @@ protected:
     CeldaResultado Celda(int tipo, int capas) const override;
     void MuestraCelda(int tipo, int capas) override;
     void BajaBandera(General& g) override;
+    // DiagramaConfina on the picture: the chart of a Calculate and of CM_CONFINA.
     void GraficoDelCalculo() override;
     bool eventFilter(QObject* objeto, QEvent* evento) override;
 

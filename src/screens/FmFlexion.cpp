@@ -1,6 +1,7 @@
 #include "screens/FmFlexion.h"
 
 #include "diagrams/Grafico.h"
+#include "diagrams/Lista.h"
 #include "diagrams/qt/Lienzo.h"
 #include "engine/Calculos.h"
 #include "files/Ficheros.h"
@@ -91,8 +92,7 @@ FmFlexion::FmFlexion(bool seccionT, QWidget* padre)
                               {"TX_EPSSI", "ε<sub>s inf</sub>", "‰", "Deformación de la armadura inferior"},
                               {"TX_EPSR", "ε<sub>r</sub>", "‰", "Deformación del refuerzo TEXALON®"}}}),
         1, 0);
-    rejilla->addWidget(CreaDibujoConVeredicto("PIC_FLEXION", seccionT ? Pantalla::FlexionT : Pantalla::Flexion,
-                                              QStringLiteral(" NO ES NECESARIO REFORZAR LA SECCIÓN ")),
+    rejilla->addWidget(CreaDibujoConVeredicto(kPicFlexion, QStringLiteral(" NO ES NECESARIO REFORZAR LA SECCIÓN ")),
                        1, 1, 1, 2);
     rejilla->setRowStretch(1, 1);
     rejilla->setColumnStretch(1, 1);
@@ -235,26 +235,39 @@ void FmFlexion::DiagramaPivotes()
     const char separador = plataforma::ServicioRegional().SeparadorDecimal();
     const auto pivotes = seccionT_ ? texalon::DiagramaPivotesT : texalon::DiagramaPivotes;
     pivotes(Estado(), EstadoDibujo(), celdaMostrada_, separador);
+    MuestraDiagrama(kAnisotropico);
 }
 
-void FmFlexion::Dibuja(Diagrama rectangular, Diagrama t)
+void FmFlexion::Dibuja(Diagrama rectangular, Diagrama t, Entero isotropico)
 {
     (seccionT_ ? t : rectangular)(Estado(), EstadoDibujo(), plataforma::ServicioRegional().SeparadorDecimal());
+    MuestraDiagrama(isotropico);
 }
 
-void FmFlexion::DiagramaMomentoCapas() { Dibuja(texalon::DiagramaMomentoCapas, texalon::DiagramaMomentoCapasT); }
+void FmFlexion::DiagramaMomentoCapas()
+{
+    Dibuja(texalon::DiagramaMomentoCapas, texalon::DiagramaMomentoCapasT, kAnisotropico);
+}
 
-void FmFlexion::DiagramaMomentoArea() { Dibuja(texalon::DiagramaMomentoArea, texalon::DiagramaMomentoAreaT); }
+void FmFlexion::DiagramaMomentoArea()
+{
+    Dibuja(texalon::DiagramaMomentoArea, texalon::DiagramaMomentoAreaT, kAnisotropico);
+}
 
-void FmFlexion::DibujaSeccion() { Dibuja(texalon::DibujaSeccion, texalon::DibujaSeccionT); }
+void FmFlexion::DibujaSeccion() { Dibuja(texalon::DibujaSeccion, texalon::DibujaSeccionT, kIsotropico); }
 
-void FmFlexion::Imprime(plataforma::Impresora& impresora)
+bool FmFlexion::Imprime(plataforma::Impresora& impresora)
 {
     const char separador = plataforma::ServicioRegional().SeparadorDecimal();
     const auto informe = seccionT_ ? InformeFlexionT : InformeFlexion;
-    if (informe(impresora, Estado(), EstadoDibujo(), celdaMostrada_, VeredictoMostrado(), separador) ==
-        Impresion::CeldaRechazada)
+    switch (informe(impresora, Estado(), EstadoDibujo(), celdaMostrada_, VeredictoMostrado(), separador)) {
+    case Impresion::ConDiagramas: return true;
+    case Impresion::SoloVeredicto: break;
+    case Impresion::CeldaRechazada:
         plataforma::MsgBox(QString::fromUtf8(kMensajeCeldaRechazada), plataforma::Estilo::Informacion);
+        break;
+    }
+    return false;
 }
 
 void FmFlexion::BajaBandera(General& g)

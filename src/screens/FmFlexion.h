@@ -25,7 +25,7 @@ public:
     void Graba(General& g) const override;
     // InformeFlexion or InformeFlexionT; a cell refused by the calculation gets the message
     // and nothing is printed.
-    void Imprime(plataforma::Impresora& impresora) override;
+    bool Imprime(plataforma::Impresora& impresora) override;
 
 protected:
     void Aceptado(const ReglaCampo& regla) override;
@@ -41,9 +41,10 @@ private:
     void EscribeFilasAnchoRefuerzo();
     TextosFlexion Textos() const;
 
-    // The diagrams of the screen, each the rectangular or T procedure as the screen is.
+    // The diagrams of the screen on its picture, each the rectangular or T procedure as the
+    // screen is, shown with the procedure's isotropic setting.
     using Diagrama = void (*)(const General&, GeneralDibujo&, char);
-    void Dibuja(Diagrama rectangular, Diagrama t);
+    void Dibuja(Diagrama rectangular, Diagrama t, Entero isotropico);
     void DiagramaPivotes();
     void DiagramaMomentoCapas();
     void DiagramaMomentoArea();

@@ -1,5 +1,6 @@
 #include "screens/Formulario.h"
 
+#include "diagrams/Lista.h"
 #include "diagrams/qt/Lienzo.h"
 
 #include <QApplication>
@@ -74,9 +75,19 @@ Formulario::Rotulos Formulario::AnadeFila(QGridLayout* filas, const QString& eti
     return rotulos;
 }
 
-Lienzo* Formulario::CreaDibujo(const char* nombre, Pantalla pantalla)
+Lienzo* Formulario::CreaDibujo(const Dibujo& dibujo)
 {
-    return Registra(new Lienzo(pantalla, this), nombre);
+    dibujo_ = Registra(new Lienzo(dibujo, this));
+    return dibujo_;
+}
+
+void Formulario::MuestraDiagrama(Entero isotropico) { dibujo_->Escena().DibujaLista(EstadoDibujo(), isotropico); }
+
+void Formulario::MuestraDiagramaDelInforme()
+{
+    GeneralDibujo& d = EstadoDibujo();
+    const TamanoDibujo tamano = dibujo_->Tamano();
+    dibujo_->Escena().Muestra(d, Encuadra(d, tamano.ancho, tamano.alto, dibujo_->IsotropicoDeLaLista()), d);
 }
 
 void Formulario::OrdenaTabulacion(const std::vector<const char*>& nombres)

@@ -1,9 +1,11 @@
-// What every screen of the program has: its controls known by name, its panels and drawing
-// surface in one visual language, the order in which Tab goes through it, and the signal of
-// its unload for the main window.
+// What every screen of the program has: its controls known by name, its panels and picture in
+// one visual language, the diagrams shown on its picture, its report, the order in which Tab
+// goes through it, and the signal of its unload for the main window.
 #pragma once
 
-#include "diagrams/Dibujante.h"
+#include "diagrams/qt/Dibujos.h"
+#include "platform/Impresora.h"
+#include "state/General.h"
 
 #include <QString>
 #include <QWidget>
@@ -26,6 +28,15 @@ class Formulario : public QWidget {
 public:
     // A control of the screen by its name ("TX_ANCHO", "CM_CALCULAR", "FG_FLEXION"...).
     QWidget* Control(const QString& nombre) const;
+
+    // The screen's report on the printer, from the state and the results the screen shows; the
+    // caller has made sure that they answer for the data where the screen calculates. True
+    // when the report built diagrams: the list then holds the last of them.
+    virtual bool Imprime(plataforma::Impresora& impresora) = 0;
+    // What a report leaves on the screen: the picture shows the last diagram that the report
+    // built, fitted to the picture, while the fit in store stays the page's (ANCHOPIC and
+    // ALTOPIC in centimetres), as a zoom or a right click then finds it.
+    void MuestraDiagramaDelInforme();
 
 signals:
     // The screen has gone through its unload; the main window greys its commands.
@@ -71,9 +82,11 @@ protected:
     Rotulos AnadeFila(QGridLayout* filas, const QString& etiqueta, QWidget* control, const QString& unidad,
                       QWidget* otro = nullptr, const QString& otraUnidad = {});
 
-    // The white picture of the screen's diagrams (PIC_FLEXION...), the one the diagram
-    // procedures of `pantalla` draw on while the screen lives.
-    Lienzo* CreaDibujo(const char* nombre, Pantalla pantalla);
+    // The white picture of the screen's diagrams (PIC_FLEXION...).
+    Lienzo* CreaDibujo(const Dibujo& dibujo);
+    // The list that a diagram procedure has just built, shown on the screen's picture with
+    // the procedure's isotropic setting (DibujaLista).
+    void MuestraDiagrama(Entero isotropico);
 
     // Tab goes through the controls in this order, the reading order of the screen: down the
     // data panel row by row, left to right within a row, then the buttons, then the grid,
@@ -90,6 +103,7 @@ private:
     int PosicionDelFoco() const;
 
     std::vector<QWidget*> ordenTabulacion_;
+    Lienzo* dibujo_ = nullptr;
 };
 
 }  // namespace texalon

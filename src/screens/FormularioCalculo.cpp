@@ -168,10 +168,9 @@ QGroupBox* FormularioCalculo::CreaMarcoResultados(const char* nombre, const QStr
     return marco;
 }
 
-Lienzo* FormularioCalculo::CreaDibujoConVeredicto(const char* nombre, Pantalla pantalla,
-                                                  const QString& textoVeredicto)
+Lienzo* FormularioCalculo::CreaDibujoConVeredicto(const Dibujo& cual, const QString& textoVeredicto)
 {
-    Lienzo* dibujo = CreaDibujo(nombre, pantalla);
+    Lienzo* dibujo = CreaDibujo(cual);
     // The verdict stands on the picture; the clicks of the zoom pass through it.
     QWidget* superficie = dibujo->viewport();
     info_ = CreaEtiqueta(textoVeredicto, superficie, "LB_INFO");

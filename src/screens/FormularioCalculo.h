@@ -9,7 +9,6 @@
 
 #include "engine/Calcular.h"
 #include "engine/Caracteristicas.h"
-#include "platform/Impresora.h"
 #include "screens/Formulario.h"
 #include "screens/ReglasCampo.h"
 
@@ -39,10 +38,6 @@ public:
     virtual bool PideFichero(General& g) const = 0;
     // Writes the project of the state to FICHERO.
     virtual void Graba(General& g) const = 0;
-
-    // The screen's report on the printer, of the cell whose results the screen shows; the
-    // caller has made sure that the results answer for the data (F_CALCULADO).
-    virtual void Imprime(plataforma::Impresora& impresora) = 0;
 
 protected:
     // What tells the calculation screens apart in their common parts.
@@ -79,7 +74,7 @@ protected:
     QGroupBox* CreaMarcoResultados(const char* nombre, const QString& titulo,
                                    const std::vector<std::vector<Resultado>>& columnas);
     // The picture with the verdict label LB_INFO on it, hidden.
-    Lienzo* CreaDibujoConVeredicto(const char* nombre, Pantalla pantalla, const QString& textoVeredicto);
+    Lienzo* CreaDibujoConVeredicto(const Dibujo& dibujo, const QString& textoVeredicto);
     // The column of buttons: CM_CALCULAR, set apart, then the diagram buttons.
     struct Boton {
         const char* nombre;

@@ -1,9 +1,7 @@
 #include "shell/MdiPrincipal.h"
 
 #include "platform/Plataforma.h"
-#include "screens/FmCarac.h"
-#include "screens/FmConfina.h"
-#include "screens/FmFlexion.h"
+#include "screens/FormularioCalculo.h"
 #include "screens/Imagenes.h"
 #include "shell/Ayuda.h"
 #include "shell/FmAcercaDe.h"
@@ -79,43 +77,34 @@ const Menu kMenus[] = {
     {"mnuAyuda", "&Ayuda", kAyuda},
 };
 
-// The toolbar buttons after the leading separator: key, tooltip and picture.
+// The toolbar buttons after the leading separator: key, tooltip, picture and command. Open and
+// Save from the toolbar leave F_ABIERTO as it was when their dialog is cancelled.
 struct BotonBarra {
     const char* clave;
     const char* consejo;
     const char* imagen;
+    Orden orden;
 };
 
 constexpr BotonBarra kBotones[] = {
-    {"Abrir", "Abrir", "abrir"},
-    {"Guardar", "Guardar", "guardar"},
-    {"Imprimir", "Imprimir", "imprimir"},
-    {"Carac", "Características mecánicas", "carac"},
-    {"FlexionR", "Refuerzo a flexión. Sección rectangular", "flexion_r"},
-    {"FlexionT", "Refuerzo a flexión. Sección en T", "flexion_t"},
-    {"Confina", "Refuerzo de confinamiento", "confina"},
-    {"Ayuda", "Ayuda del programa", "ayuda"},
-    {"Guia", "Manual de referencia", "guia"},
-    {"Web", "Velmora en la web", "web"},
-    {"Mail", "Contactar con Velmora", "mail"},
-    {"Info", "Acerca de...", "info"},
+    {"Abrir", "Abrir", "abrir", &MdiPrincipal::AbrirDesdeBarra},
+    {"Guardar", "Guardar", "guardar", &MdiPrincipal::GuardarDesdeBarra},
+    {"Imprimir", "Imprimir", "imprimir", &MdiPrincipal::Imprimir},
+    {"Carac", "Características mecánicas", "carac", &MdiPrincipal::Caracteristicas},
+    {"FlexionR", "Refuerzo a flexión. Sección rectangular", "flexion_r", &MdiPrincipal::NuevaFlexion},
+    {"FlexionT", "Refuerzo a flexión. Sección en T", "flexion_t", &MdiPrincipal::NuevaFlexionT},
+    {"Confina", "Refuerzo de confinamiento", "confina", &MdiPrincipal::NuevoConfinamiento},
+    {"Ayuda", "Ayuda del programa", "ayuda", &MdiPrincipal::AyudaPrograma},
+    {"Guia", "Manual de referencia", "guia", &MdiPrincipal::Guia},
+    {"Web", "Velmora en la web", "web", &MdiPrincipal::Web},
+    {"Mail", "Contactar con Velmora", "mail", &MdiPrincipal::Contactar},
+    {"Info", "Acerca de...", "info", &MdiPrincipal::AcercaDe},
 };
 
 constexpr int kBotonGuardar = 3;
 constexpr int kBotonImprimir = 4;
 
 }  // namespace
-
-QString NombrePantalla(Pantalla pantalla)
-{
-    switch (pantalla) {
-    case Pantalla::Flexion: return QStringLiteral("FM_FLEXION");
-    case Pantalla::FlexionT: return QStringLiteral("FM_FLEXIONT");
-    case Pantalla::Confina: return QStringLiteral("FM_CONFINA");
-    case Pantalla::Carac: return QStringLiteral("FM_CARAC");
-    }
-    return {};
-}
 
 MdiPrincipal::MdiPrincipal(QWidget* padre) : QMainWindow(padre)
 {
@@ -156,10 +145,8 @@ void MdiPrincipal::Carga()
     g.F_GRABADO = false;
     g.F_MODIFICADO = false;
     g.F_MAPI = false;
-    g.F_FLEXION = false;
-    g.F_FLEXIONT = false;
-    g.F_CONFINA = false;
-    g.F_CARAC = false;
+    for (const FilaPantalla& fila : FilasPantallas())
+        g.*fila.abierta = false;
     g.F_NUEVO = true;
 
     if (!ResolucionSuficiente()) {
@@ -263,8 +250,8 @@ void MdiPrincipal::ActivaGuardarEImprimir(bool guardar, bool imprimir)
 
 void MdiPrincipal::PantallaActivada(Pantalla pantalla)
 {
-    if (pantalla == Pantalla::Carac) {
-        // The characteristics have no file: button 3 stays as the last unload left it.
+    if (!FilaDe(pantalla).conProyecto) {
+        // A screen without a file: button 3 stays as the last unload left it.
         ActivaGuardarEImprimir(false, true);
         return;
     }
@@ -278,40 +265,41 @@ void MdiPrincipal::PantallaDescargada()
     Boton(kBotonGuardar)->setEnabled(false);
 }
 
-QMdiSubWindow* MdiPrincipal::Ventana(Pantalla pantalla) const
+QMdiSubWindow* MdiPrincipal::Ventana(const FilaPantalla& fila) const
 {
     for (QMdiSubWindow* ventana : area_->subWindowList())
-        if (ventana->widget() != nullptr && ventana->widget()->objectName() == NombrePantalla(pantalla)) return ventana;
+        if (ventana->widget() != nullptr && ventana->widget()->objectName() == QLatin1String(fila.nombre)) return ventana;
     return nullptr;
+}
+
+Formulario* MdiPrincipal::PantallaDe(const FilaPantalla* fila) const
+{
+    QMdiSubWindow* ventana = fila == nullptr ? nullptr : Ventana(*fila);
+    return ventana == nullptr ? nullptr : qobject_cast<Formulario*>(ventana->widget());
+}
+
+FormularioCalculo* MdiPrincipal::PantallaDeCalculo(const FilaPantalla* fila) const
+{
+    return qobject_cast<FormularioCalculo*>(PantallaDe(fila));
 }
 
 void MdiPrincipal::CierraPantallaAbierta()
 {
     const General& g = Estado();
-    const std::pair<const bool*, Pantalla> orden[] = {
-        {&g.F_FLEXION, Pantalla::Flexion},
-        {&g.F_CONFINA, Pantalla::Confina},
-        {&g.F_CARAC, Pantalla::Carac},
-        {&g.F_FLEXIONT, Pantalla::FlexionT},
-    };
-    for (const auto& [abierta, pantalla] : orden)
-        if (*abierta)
-            if (QMdiSubWindow* ventana = Ventana(pantalla)) ventana->close();
+    for (const FilaPantalla& fila : FilasPantallas())
+        if (g.*fila.abierta)
+            if (QMdiSubWindow* ventana = Ventana(fila)) ventana->close();
 }
 
-void MdiPrincipal::NuevaPantalla(Pantalla pantalla, void (*valoresIniciales)(General&))
+void MdiPrincipal::Nueva(Pantalla pantalla)
 {
-    Estado().F_ABIERTO = false;
+    const FilaPantalla& fila = FilaDe(pantalla);
+    // A new project leaves the project in hand behind; the characteristics keep the state.
+    if (fila.valoresIniciales != nullptr) Estado().F_ABIERTO = false;
     CierraPantallaAbierta();
-    valoresIniciales(Estado());
+    if (fila.valoresIniciales != nullptr) fila.valoresIniciales(Estado());
     MuestraPantalla(pantalla);
 }
-
-void MdiPrincipal::NuevaFlexion() { NuevaPantalla(Pantalla::Flexion, &ValoresFlexion); }
-
-void MdiPrincipal::NuevaFlexionT() { NuevaPantalla(Pantalla::FlexionT, &ValoresFlexion); }
-
-void MdiPrincipal::NuevoConfinamiento() { NuevaPantalla(Pantalla::Confina, &ValoresNuevoConfinamiento); }
 
 Formulario* MdiPrincipal::PantallaAbierta() const
 {
@@ -321,30 +309,9 @@ Formulario* MdiPrincipal::PantallaAbierta() const
     return nullptr;
 }
 
-FormularioCalculo* MdiPrincipal::PantallaDeCalculo(std::initializer_list<Pantalla> orden) const
-{
-    const General& g = Estado();
-    for (Pantalla pantalla : orden) {
-        const bool abierta = pantalla == Pantalla::Flexion    ? g.F_FLEXION
-                             : pantalla == Pantalla::FlexionT ? g.F_FLEXIONT
-                             : pantalla == Pantalla::Confina  ? g.F_CONFINA
-                                                              : false;
-        if (!abierta) continue;
-        QMdiSubWindow* ventana = Ventana(pantalla);
-        return ventana == nullptr ? nullptr : qobject_cast<FormularioCalculo*>(ventana->widget());
-    }
-    return nullptr;
-}
-
 void MdiPrincipal::MuestraPantalla(Pantalla pantalla)
 {
-    Formulario* contenido = nullptr;
-    switch (pantalla) {
-    case Pantalla::Flexion: contenido = new FmFlexion(false); break;
-    case Pantalla::FlexionT: contenido = new FmFlexion(true); break;
-    case Pantalla::Confina: contenido = new FmConfina; break;
-    case Pantalla::Carac: contenido = new FmCarac; break;
-    }
+    Formulario* contenido = FilaDe(pantalla).crea();
     connect(contenido, &Formulario::Descargada, this, &MdiPrincipal::PantallaDescargada);
 
     // A screen has a fixed size and a frame that can be minimised and closed, not stretched.
@@ -365,15 +332,8 @@ void MdiPrincipal::MuestraPantalla(Pantalla pantalla)
 void MdiPrincipal::VentanaActivada(QMdiSubWindow* ventana)
 {
     if (ventana == nullptr || ventana->widget() == nullptr) return;
-    for (Pantalla pantalla : {Pantalla::Flexion, Pantalla::FlexionT, Pantalla::Confina, Pantalla::Carac})
-        if (ventana->widget()->objectName() == NombrePantalla(pantalla)) PantallaActivada(pantalla);
-}
-
-void MdiPrincipal::Caracteristicas()
-{
-    // Neither F_ABIERTO nor any field is touched: the open screen goes, the state stays.
-    CierraPantallaAbierta();
-    MuestraPantalla(Pantalla::Carac);
+    if (const FilaPantalla* fila = FilaDeNombre(ventana->widget()->objectName().toLatin1().constData()))
+        PantallaActivada(fila->pantalla);
 }
 
 void MdiPrincipal::AcercaDe()
@@ -382,7 +342,7 @@ void MdiPrincipal::AcercaDe()
     g.F_ERROR = false;
     // A real copy: a text typed and not yet checked reaches the state, and fields that do not
     // pass keep the box from opening, without a word.
-    if (FormularioCalculo* pantalla = PantallaDeCalculo({Pantalla::Flexion, Pantalla::FlexionT, Pantalla::Confina}))
+    if (FormularioCalculo* pantalla = PantallaDeCalculo(PantallaPorTurno(g, &FilaPantalla::turnoCopia)))
         pantalla->CopiaAlEstado();
     if (g.F_ERROR) return;
     FmAcercaDe caja(this);
@@ -400,18 +360,8 @@ void MdiPrincipal::TB_BARRA_ButtonClick(const QString& clave)
 {
     barra_->update();
     CierraPresentacion();
-    if (clave == QLatin1String("Abrir")) Abrir(Via::Barra);
-    if (clave == QLatin1String("Guardar")) Guardar(Via::Barra);
-    if (clave == QLatin1String("Imprimir")) Imprimir();
-    if (clave == QLatin1String("Carac")) Caracteristicas();
-    if (clave == QLatin1String("FlexionR")) NuevaFlexion();
-    if (clave == QLatin1String("FlexionT")) NuevaFlexionT();
-    if (clave == QLatin1String("Confina")) NuevoConfinamiento();
-    if (clave == QLatin1String("Ayuda")) AyudaPrograma();
-    if (clave == QLatin1String("Guia")) Guia();
-    if (clave == QLatin1String("Web")) Web();
-    if (clave == QLatin1String("Mail")) Contactar();
-    if (clave == QLatin1String("Info")) AcercaDe();
+    for (const BotonBarra& boton : kBotones)
+        if (clave == QLatin1String(boton.clave)) (this->*boton.orden)();
 }
 
 void MdiPrincipal::DevuelveTamano()

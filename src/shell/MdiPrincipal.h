@@ -2,9 +2,9 @@
 // one calculation screen open at a time.
 #pragma once
 
-#include "diagrams/Dibujante.h"
 #include "platform/Plataforma.h"
 #include "shell/FmPresentacion.h"
+#include "shell/Pantallas.h"
 #include "state/General.h"
 
 #include <QKeySequence>
@@ -12,7 +12,6 @@
 #include <QMainWindow>
 #include <QPointer>
 #include <functional>
-#include <initializer_list>
 
 class QMdiArea;
 class QMdiSubWindow;
@@ -66,15 +65,20 @@ public:
     void Abrir(Via via);
     void Guardar(Via via);
     void AbrirDesdeMenu() { Abrir(Via::Menu); }
+    void AbrirDesdeBarra() { Abrir(Via::Barra); }
     // Opens the named project as Open does after its dialog, with the same checks, messages
     // and screen: the file given on the command line, or dropped on the window.
     void AbrirFichero(const QString& fichero);
     void GuardarDesdeMenu() { Guardar(Via::Menu); }
+    void GuardarDesdeBarra() { Guardar(Via::Barra); }
     void GuardarComo();
-    void NuevaFlexion();
-    void NuevaFlexionT();
-    void NuevoConfinamiento();
-    void Caracteristicas();
+    // New flexure, rectangular or T, and New confinement: a new project of the screen's kind,
+    // its start values written, on its screen. Characteristics: its screen, with the state as
+    // it is.
+    void NuevaFlexion() { Nueva(Pantalla::Flexion); }
+    void NuevaFlexionT() { Nueva(Pantalla::FlexionT); }
+    void NuevoConfinamiento() { Nueva(Pantalla::Confina); }
+    void Caracteristicas() { Nueva(Pantalla::Carac); }
     void AcercaDe();
     // The report of the open screen on the current printer, under the hourglass: the
     // characteristics at once, a calculation screen only when its results answer for its data.
@@ -89,7 +93,8 @@ public:
     void Web();
     void Contactar();
 
-    // The one click handler of the toolbar, told the button's key ("Abrir", "FlexionR"...).
+    // The one click handler of the toolbar, told the button's key ("Abrir", "FlexionR"...): the
+    // bar redrawn and the splash closed, then the button's command.
     void TB_BARRA_ButtonClick(const QString& clave);
 
 protected:
@@ -111,7 +116,7 @@ private:
     void CentraPresentacion();
     void DevuelveTamano();
     void ActivaGuardarEImprimir(bool guardar, bool imprimir);
-    void NuevaPantalla(Pantalla pantalla, void (*valoresIniciales)(General&));
+    void Nueva(Pantalla pantalla);
     void MuestraPantalla(Pantalla pantalla);
 
     // How Open and the saves end: done, or stopped by a Cancel in the file dialog.
@@ -120,10 +125,12 @@ private:
     void LeeProyecto(const plataforma::FicheroElegido& elegido);
     Fin GuardaProyecto(bool preguntaSiempre);
     void OrdenDeFichero(Via via, const std::function<Fin()>& orden);
-    // The open calculation screen, its flag tested in the given order.
-    FormularioCalculo* PantallaDeCalculo(std::initializer_list<Pantalla> orden) const;
+    // The screen of a row, when its window is open; none for no row.
+    Formulario* PantallaDe(const FilaPantalla* fila) const;
+    // The calculation screen of a row, as above.
+    FormularioCalculo* PantallaDeCalculo(const FilaPantalla* fila) const;
     void VentanaActivada(QMdiSubWindow* ventana);
-    QMdiSubWindow* Ventana(Pantalla pantalla) const;
+    QMdiSubWindow* Ventana(const FilaPantalla& fila) const;
 
     QMdiArea* area_ = nullptr;
     QToolBar* barra_ = nullptr;
@@ -133,8 +140,5 @@ private:
     bool ajustando_ = false;
     bool centrada_ = false;
 };
-
-// The window name of a calculation screen: "FM_FLEXION", "FM_FLEXIONT", "FM_CONFINA", "FM_CARAC".
-QString NombrePantalla(Pantalla pantalla);
 
 }  // namespace texalon

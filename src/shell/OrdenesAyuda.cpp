@@ -7,16 +7,11 @@ namespace texalon {
 
 namespace {
 
-// The help topic of the open screen, tested in the order the program has always tested the
-// flags; 0 with no screen open.
+// The help topic of the open screen, its flag tested in the help's turn; 0 with no screen open.
 int ContextoDeAyuda()
 {
-    const General& g = Estado();
-    if (g.F_FLEXION) return 32;
-    if (g.F_CARAC) return 31;
-    if (g.F_CONFINA) return 33;
-    if (g.F_FLEXIONT) return 34;
-    return 0;
+    const FilaPantalla* fila = PantallaPorTurno(Estado(), &FilaPantalla::turnoAyuda);
+    return fila == nullptr ? 0 : fila->contextoAyuda;
 }
 
 }  // namespace

@@ -100,7 +100,7 @@ MdiPrincipal::Fin MdiPrincipal::GuardaProyecto(bool preguntaSiempre)
 {
     General& g = Estado();
     g.F_ERROR = false;
-    FormularioCalculo* pantalla = PantallaDeCalculo({Pantalla::Flexion, Pantalla::Confina, Pantalla::FlexionT});
+    FormularioCalculo* pantalla = PantallaDeCalculo(PrimeraAbierta(g, true));
     if (pantalla == nullptr) return Fin::Completa;
     pantalla->CopiaAlEstado();
     if (g.F_ERROR) {

@@ -2,11 +2,8 @@
 #include "platform/Impresora.h"
 #include "platform/Plataforma.h"
 #include "reports/qt/FmConfigImpr.h"
-#include "screens/FmCarac.h"
-#include "screens/FormularioCalculo.h"
+#include "screens/Formulario.h"
 #include "shell/MdiPrincipal.h"
-
-#include <QMdiSubWindow>
 
 namespace texalon {
 
@@ -22,18 +19,16 @@ void MdiPrincipal::Imprimir()
 {
     setCursor(Qt::WaitCursor);
     plataforma::AtrapaErrorFatal([this] {
-        plataforma::Impresora& impresora = plataforma::ServicioImpresoras().EnUso();
-        if (Estado().F_CARAC) {
-            // The characteristics have nothing to calculate.
-            if (QMdiSubWindow* ventana = Ventana(Pantalla::Carac))
-                if (auto* carac = qobject_cast<FmCarac*>(ventana->widget())) carac->Imprime(impresora);
-        } else if (FormularioCalculo* pantalla =
-                       PantallaDeCalculo({Pantalla::Flexion, Pantalla::Confina, Pantalla::FlexionT})) {
-            if (Estado().F_CALCULADO)
-                pantalla->Imprime(impresora);
-            else
-                plataforma::MsgBox(kResultadosSinCalcular, plataforma::Estilo::Informacion);
+        const FilaPantalla* fila = PantallaParaImprimir(Estado());
+        Formulario* pantalla = PantallaDe(fila);
+        if (pantalla == nullptr) return;
+        if (fila->conProyecto && !Estado().F_CALCULADO) {
+            plataforma::MsgBox(kResultadosSinCalcular, plataforma::Estilo::Informacion);
+            return;
         }
+        // The report builds its diagrams on the list and prints each; the last of them is
+        // then what the screen's picture shows.
+        if (pantalla->Imprime(plataforma::ServicioImpresoras().EnUso())) pantalla->MuestraDiagramaDelInforme();
     });
     setCursor(Qt::ArrowCursor);
 }

@@ -16,15 +16,7 @@ GeneralDibujo& EstadoDibujo()
     return dibujo;
 }
 
-void BorraDibujo(GeneralDibujo& d)
-{
-    d.NLINEA = 0;
-    d.NTIT = 0;
-    d.NBARRA = 0;
-    d.NPUNTO = 0;
-    d.NSECRECT = 0;
-    d.NSECCIR = 0;
-}
+void BorraDibujo(ContadoresDibujo& d) { d = ContadoresDibujo{}; }
 
 void ValoresIniciales(General& g)
 {

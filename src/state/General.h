@@ -156,22 +156,27 @@ struct General {
     std::string DIRECTORIO;  // current directory after the last file dialog
 };
 
-// The display list and the counters of screen elements, shared by the diagrams and reports.
-struct GeneralDibujo {
-    static constexpr int kElementos = 1000;
-    static constexpr int kCampos = 10;
-
-    Entero NLISTA = 0;
-    Arreglo<double> LISTA;  // (1..1000, 1..10)
-    Arreglo<std::string> TEXTOS;  // (1..1000)
-
-    // DIBUJO: how many screen elements of each kind exist now.
+// DIBUJO: how many screen elements of each kind exist now, 0 while none. The picture of a
+// screen counts into the drawing state's own set; a picture drawn for a file keeps a set of
+// its own, so that the state's counters go on naming what the screen shows.
+struct ContadoresDibujo {
     Entero NLINEA = 0;
     Entero NTIT = 0;
     Entero NBARRA = 0;
     Entero NPUNTO = 0;
     Entero NSECRECT = 0;
     Entero NSECCIR = 0;
+};
+
+// The display list, the counters of screen elements, the fit of the last rendering and the
+// zoom, shared by the diagrams, the pictures and the reports.
+struct GeneralDibujo : ContadoresDibujo {
+    static constexpr int kElementos = 1000;
+    static constexpr int kCampos = 10;
+
+    Entero NLISTA = 0;
+    Arreglo<double> LISTA;  // (1..1000, 1..10)
+    Arreglo<std::string> TEXTOS;  // (1..1000)
 
     double ANCHOPIC = 0.0;
     double ALTOPIC = 0.0;
@@ -194,7 +199,7 @@ General& Estado();
 GeneralDibujo& EstadoDibujo();
 
 // Sets the counters of screen elements to 0, as a screen does when it closes.
-void BorraDibujo(GeneralDibujo& d);
+void BorraDibujo(ContadoresDibujo& d);
 
 // Start-up: every project field to its default, the program size fixed, the catalogue filled.
 // The flags are the main window's and are not touched here.

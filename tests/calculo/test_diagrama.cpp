@@ -43,31 +43,31 @@ struct Caso {
     int tipo;
     int capas;
     std::string_view procedimiento;
-    Pantalla pantalla;
+    const Dibujo* dibujo;
     Entero isotropico;
 };
 
 const Caso kCasos[] = {
-    {"rectangular", "tension", 1, 1, "DiagramaTension", Pantalla::Carac, 0},
-    {"rectangular", "tension", 3, 1, "DiagramaTension", Pantalla::Carac, 0},
-    {"rectangular", "area", 1, 1, "DiagramaMomentoArea", Pantalla::Flexion, 0},
-    {"rectangular", "capas", 1, 1, "DiagramaMomentoCapas", Pantalla::Flexion, 0},
-    {"rectangular", "pivotes", 1, 1, "DiagramaPivotes", Pantalla::Flexion, 0},
-    {"rectangular", "pivotes", 2, 2, "DiagramaPivotes", Pantalla::Flexion, 0},
-    {"rectangular", "pivotes", 1, 5, "DiagramaPivotes", Pantalla::Flexion, 0},
-    {"rectangular", "seccion", 1, 1, "DibujaSeccion", Pantalla::Flexion, 1},
-    {"T", "tension", 2, 1, "DiagramaTension", Pantalla::Carac, 0},
-    {"T", "area", 1, 1, "DiagramaMomentoAreaT", Pantalla::FlexionT, 0},
-    {"T", "capas", 1, 1, "DiagramaMomentoCapasT", Pantalla::FlexionT, 0},
-    {"T", "pivotes", 1, 1, "DiagramaPivotesT", Pantalla::FlexionT, 0},
-    {"T", "pivotes", 2, 2, "DiagramaPivotesT", Pantalla::FlexionT, 0},
-    {"T", "seccion", 1, 1, "DibujaSeccionT", Pantalla::FlexionT, 1},
-    {"circular", "tension", 1, 1, "DiagramaTension", Pantalla::Carac, 0},
-    {"circular", "confinamiento", 1, 1, "DiagramaConfina", Pantalla::Confina, 0},
-    {"circular", "seccion", 1, 1, "DibujaSeccionConfina", Pantalla::Confina, 1},
-    {"cuadrado", "seccion", 1, 1, "DibujaSeccionConfina", Pantalla::Confina, 1},
-    {"rectangulo", "seccion", 1, 1, "DibujaSeccionConfina", Pantalla::Confina, 1},
-    {"rectangulo", "confinamiento", 1, 1, "DiagramaConfina", Pantalla::Confina, 0},
+    {"rectangular", "tension", 1, 1, "DiagramaTension", &kPicCarac, 0},
+    {"rectangular", "tension", 3, 1, "DiagramaTension", &kPicCarac, 0},
+    {"rectangular", "area", 1, 1, "DiagramaMomentoArea", &kPicFlexion, 0},
+    {"rectangular", "capas", 1, 1, "DiagramaMomentoCapas", &kPicFlexion, 0},
+    {"rectangular", "pivotes", 1, 1, "DiagramaPivotes", &kPicFlexion, 0},
+    {"rectangular", "pivotes", 2, 2, "DiagramaPivotes", &kPicFlexion, 0},
+    {"rectangular", "pivotes", 1, 5, "DiagramaPivotes", &kPicFlexion, 0},
+    {"rectangular", "seccion", 1, 1, "DibujaSeccion", &kPicFlexion, 1},
+    {"T", "tension", 2, 1, "DiagramaTension", &kPicCarac, 0},
+    {"T", "area", 1, 1, "DiagramaMomentoAreaT", &kPicFlexion, 0},
+    {"T", "capas", 1, 1, "DiagramaMomentoCapasT", &kPicFlexion, 0},
+    {"T", "pivotes", 1, 1, "DiagramaPivotesT", &kPicFlexion, 0},
+    {"T", "pivotes", 2, 2, "DiagramaPivotesT", &kPicFlexion, 0},
+    {"T", "seccion", 1, 1, "DibujaSeccionT", &kPicFlexion, 1},
+    {"circular", "tension", 1, 1, "DiagramaTension", &kPicCarac, 0},
+    {"circular", "confinamiento", 1, 1, "DiagramaConfina", &kPicConfina, 0},
+    {"circular", "seccion", 1, 1, "DibujaSeccionConfina", &kPicConfina, 1},
+    {"cuadrado", "seccion", 1, 1, "DibujaSeccionConfina", &kPicConfina, 1},
+    {"rectangulo", "seccion", 1, 1, "DibujaSeccionConfina", &kPicConfina, 1},
+    {"rectangulo", "confinamiento", 1, 1, "DiagramaConfina", &kPicConfina, 0},
 };
 
 using Llamada = std::function<void(General&, GeneralDibujo&, int tipo, int capas, char separador)>;
@@ -223,7 +223,7 @@ TEST_P(ListaDeDiagrama, LosResultadosSonLosDeSinDiagrama)
     EXPECT_EQ(con.substr(sin.size() - 2, 9), ",\"lista\":");
 }
 
-TEST_P(ListaDeDiagrama, LaBibliotecaDaLaListaYSuPantalla)
+TEST_P(ListaDeDiagrama, LaBibliotecaDaLaListaYSuDibujo)
 {
     const auto& [caso, separador] = GetParam();
     const Proyecto& proyecto = kProyectos.at(caso.proyecto);
@@ -239,7 +239,7 @@ TEST_P(ListaDeDiagrama, LaBibliotecaDaLaListaYSuPantalla)
     ASSERT_TRUE(lista.has_value());
     EXPECT_TRUE(calculo.Correcto());
     EXPECT_EQ(lista->procedimiento, caso.procedimiento);
-    EXPECT_EQ(lista->pantalla, caso.pantalla);
+    EXPECT_EQ(lista->dibujo, caso.dibujo);
     EXPECT_EQ(lista->isotropico, caso.isotropico);
     EXPECT_TRUE(MismaLista(lista->d, ListaDelProcedimiento(caso, fichero, separador)));
 }

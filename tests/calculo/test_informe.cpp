@@ -102,7 +102,7 @@ TEST(InformeCalculo, EsElInformeDeImprimirParaLaCeldaElegida)
     GeneralDibujo d;
     ImpresoraDoble esperada;
     ASSERT_EQ(InformeFlexion(esperada, g, d, ResultadosFlexion(g, 2, 4, '.'), calculo.veredicto, '.'),
-              Impresion::Impreso);
+              Impresion::ConDiagramas);
     EXPECT_EQ(impresoras.impresoras[0].operaciones, esperada.operaciones);
     EXPECT_TRUE(Imprimio(impresoras.impresoras[0], "Refuerzo tipo TEXALON H - Núm. capas: 4"));
 }

@@ -15,7 +15,7 @@ namespace texalon::prueba {
 namespace {
 
 struct Llamada {
-    Pantalla pantalla;
+    std::string dibujo;  // the picture's name
     Entero isotropico;
     std::string fichero;
     Entero NLISTA;
@@ -31,8 +31,9 @@ public:
     calculo::Dispositivos Dispositivos()
     {
         calculo::Dispositivos dispositivos;
-        dispositivos.svg = [this](GeneralDibujo& d, Pantalla pantalla, Entero isotropico, const std::string& fichero) {
-            Llamada llamada{pantalla, isotropico, fichero, d.NLISTA, {}};
+        dispositivos.svg = [this](const GeneralDibujo& d, const Dibujo& dibujo, Entero isotropico,
+                                  const std::string& fichero) {
+            Llamada llamada{dibujo.nombre, isotropico, fichero, d.NLISTA, {}};
             for (int i = 1; i <= d.NLISTA; ++i)
                 llamada.textos.push_back(d.TEXTOS(i));
             llamadas.push_back(llamada);
@@ -62,10 +63,10 @@ TEST(SvgCalculo, CadaFicheroASuNombreConElDelDiagrama)
     EXPECT_EQ(ejecucion.errores, "");
     ASSERT_EQ(escritor.llamadas.size(), 2U);
     EXPECT_EQ(escritor.llamadas[0].fichero, (std::filesystem::path(carpeta) / "viga-capas.svg").string());
-    EXPECT_EQ(escritor.llamadas[0].pantalla, Pantalla::Flexion);
+    EXPECT_EQ(escritor.llamadas[0].dibujo, "PIC_FLEXION");
     EXPECT_EQ(escritor.llamadas[0].isotropico, 0);
     EXPECT_EQ(escritor.llamadas[1].fichero, (std::filesystem::path(carpeta) / "viga_t-capas.svg").string());
-    EXPECT_EQ(escritor.llamadas[1].pantalla, Pantalla::FlexionT);
+    EXPECT_EQ(escritor.llamadas[1].dibujo, "PIC_FLEXION");
     // The folder was made, and the files are there.
     EXPECT_TRUE(std::filesystem::exists(escritor.llamadas[0].fichero));
     EXPECT_TRUE(std::filesystem::exists(escritor.llamadas[1].fichero));
@@ -82,15 +83,15 @@ TEST(SvgCalculo, LasSeccionesConservanSusProporciones)
         {"--diagrama", "seccion", "--svg", directorio.Ruta().string(), viga, vigaT, pilar}, ',', escritor.Dispositivos());
     EXPECT_EQ(ejecucion.estado, 0) << ejecucion.errores;
     ASSERT_EQ(escritor.llamadas.size(), 3U);
-    EXPECT_EQ(escritor.llamadas[0].pantalla, Pantalla::Flexion);
-    EXPECT_EQ(escritor.llamadas[1].pantalla, Pantalla::FlexionT);
-    EXPECT_EQ(escritor.llamadas[2].pantalla, Pantalla::Confina);
+    EXPECT_EQ(escritor.llamadas[0].dibujo, "PIC_FLEXION");
+    EXPECT_EQ(escritor.llamadas[1].dibujo, "PIC_FLEXION");
+    EXPECT_EQ(escritor.llamadas[2].dibujo, "PIC_CONFINA");
     for (const Llamada& llamada : escritor.llamadas)
         EXPECT_EQ(llamada.isotropico, 1) << llamada.fichero;
     EXPECT_EQ(std::filesystem::path(escritor.llamadas[2].fichero).filename(), "pilar-seccion.svg");
 }
 
-TEST(SvgCalculo, ElDiagramaDeTensionVaEnLaPantallaDeCaracteristicas)
+TEST(SvgCalculo, ElDiagramaDeTensionVaEnElDibujoDeCaracteristicas)
 {
     DirectorioTemporal directorio;
     const std::string pilar = directorio.Escribe("pilar.vmc", kConfinamiento);
@@ -99,11 +100,11 @@ TEST(SvgCalculo, ElDiagramaDeTensionVaEnLaPantallaDeCaracteristicas)
         EjecutaCalculo({"--diagrama", "tension", "--svg", directorio.Ruta().string(), pilar}, ',', escritor.Dispositivos());
     EXPECT_EQ(ejecucion.estado, 0) << ejecucion.errores;
     ASSERT_EQ(escritor.llamadas.size(), 1U);
-    EXPECT_EQ(escritor.llamadas[0].pantalla, Pantalla::Carac);
+    EXPECT_EQ(escritor.llamadas[0].dibujo, "PIC_CARAC");
     EXPECT_EQ(escritor.llamadas[0].isotropico, 0);
 }
 
-TEST(SvgCalculo, ConfinamientoYPivotesConSuPantalla)
+TEST(SvgCalculo, ConfinamientoYPivotesConSuDibujo)
 {
     DirectorioTemporal directorio;
     const std::string pilar = directorio.Escribe("pilar.vmc", kConfinamiento);
@@ -114,7 +115,7 @@ TEST(SvgCalculo, ConfinamientoYPivotesConSuPantalla)
                   .estado,
               0);
     ASSERT_EQ(confina.llamadas.size(), 1U);
-    EXPECT_EQ(confina.llamadas[0].pantalla, Pantalla::Confina);
+    EXPECT_EQ(confina.llamadas[0].dibujo, "PIC_CONFINA");
     EXPECT_EQ(confina.llamadas[0].isotropico, 0);
     EscritorDePrueba pivotes;
     EXPECT_EQ(
@@ -122,7 +123,7 @@ TEST(SvgCalculo, ConfinamientoYPivotesConSuPantalla)
             .estado,
         0);
     ASSERT_EQ(pivotes.llamadas.size(), 1U);
-    EXPECT_EQ(pivotes.llamadas[0].pantalla, Pantalla::Flexion);
+    EXPECT_EQ(pivotes.llamadas[0].dibujo, "PIC_FLEXION");
     EXPECT_EQ(pivotes.llamadas[0].isotropico, 0);
 }
 

@@ -1,5 +1,7 @@
 #include "Pantallas.h"
 
+#include "diagrams/Lista.h"
+#include "diagrams/qt/Lienzo.h"
 #include "screens/Formulario.h"
 
 #include <QComboBox>
@@ -15,6 +17,34 @@ void FilasSeparador()
     QTest::addColumn<char>("separador");
     QTest::newRow("coma") << ',';
     QTest::newRow("punto") << '.';
+}
+
+QString DiferenciaConLaLista(const Lienzo& lienzo, const GeneralDibujo& d, Entero isotropico)
+{
+    const TamanoDibujo tamano = lienzo.Tamano();
+    const Encuadre e = Encuadra(d, tamano.ancho, tamano.alto, isotropico);
+    const std::vector<ElementoPantalla> lineas = lienzo.Escena().Elementos(ClasePantalla::Linea);
+    const auto textos = lienzo.Escena().Elementos(ClasePantalla::Tit).size();
+    if (static_cast<int>(lineas.size()) != d.NLINEA || static_cast<int>(textos) != d.NTIT)
+        return QStringLiteral("%1 líneas y %2 textos a la vista, NLINEA %3 y NTIT %4")
+            .arg(lineas.size())
+            .arg(textos)
+            .arg(d.NLINEA)
+            .arg(d.NTIT);
+    int primera = 1;
+    while (primera <= d.NLISTA && ClaseElemento(d, primera) != static_cast<int>(Clase::Linea))
+        ++primera;
+    if (primera > d.NLISTA) return lineas.empty() ? QString() : QStringLiteral("líneas sin lista");
+    const ElementoPantalla& linea = lineas.front();
+    const double x1 = e.X(d.LISTA(primera, campo::kX1));
+    const double y2 = e.Y(d.LISTA(primera, campo::kY2));
+    if (linea.x1 != x1 || linea.y2 != y2)
+        return QStringLiteral("la primera línea va de x %1 a y %2; ajustada, de %3 a %4")
+            .arg(linea.x1)
+            .arg(linea.y2)
+            .arg(x1)
+            .arg(y2);
+    return {};
 }
 
 QWidget* PruebaDePantalla::C(const char* nombre) const { return EnPrueba()->Control(QString::fromLatin1(nombre)); }

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "platform/dobles/PlataformaDoble.h"
+#include "state/General.h"
 
 #include <QObject>
 #include <QString>
@@ -16,12 +17,18 @@ class QWidget;
 
 namespace texalon {
 class Formulario;
+class Lienzo;
 }
 
 namespace texalon::prueba {
 
 // The two decimal settings, as the data rows "coma" and "punto" of a column "separador".
 void FilasSeparador();
+
+// How the picture differs from the list of the drawing state fitted to the picture's pixels
+// with `isotropico`: the lines and texts against the counters, the first line against its
+// fitted place. Empty when the picture shows the list so.
+QString DiferenciaConLaLista(const Lienzo& lienzo, const GeneralDibujo& d, Entero isotropico);
 
 class PruebaDePantalla : public QObject {
 protected:

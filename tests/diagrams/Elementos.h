@@ -1,8 +1,7 @@
 // What the tests of the diagram procedures share: an element of the display list read back as
-// a record, and a picture that records what it was asked to draw.
+// a record, and a drawing state in use that a procedure must leave as it is but for its list.
 #pragma once
 
-#include "diagrams/Dibujante.h"
 #include "diagrams/Lista.h"
 #include "state/General.h"
 
@@ -90,28 +89,51 @@ inline void EsperaLista(const GeneralDibujo& d, const std::vector<Elemento>& esp
     for (int i = 1; i <= d.NLISTA; ++i) EsperaElemento(d, i, esperados[static_cast<std::size_t>(i - 1)]);
 }
 
-// A picture registered for one screen while it lives: counts the showings and keeps the
-// isotropic flag and the element count of the last one.
-class DibujanteDePrueba : public Dibujante {
-public:
-    explicit DibujanteDePrueba(Pantalla pantalla) : pantalla_(pantalla) { RegistraDibujante(pantalla_, this); }
-    ~DibujanteDePrueba() override { RegistraDibujante(pantalla_, nullptr); }
-    DibujanteDePrueba(const DibujanteDePrueba&) = delete;
-    DibujanteDePrueba& operator=(const DibujanteDePrueba&) = delete;
+// A drawing state whose counters, fit and zoom hold values that no diagram procedure writes. A
+// procedure builds the list and sets its flags, and that is all: whoever called it shows the
+// list on a picture, on paper or in a file.
+inline GeneralDibujo DibujoEnUso()
+{
+    GeneralDibujo d;
+    d.NLINEA = 11;
+    d.NTIT = 12;
+    d.NBARRA = 13;
+    d.NPUNTO = 14;
+    d.NSECRECT = 15;
+    d.NSECCIR = 16;
+    d.ANCHOPIC = 440.0;
+    d.ALTOPIC = 176.0;
+    d.ESCALAX = 3.5;
+    d.ESCALAY = 4.5;
+    d.ZOOM = 30.0;
+    d.ZOOMX1 = 1.0;
+    d.ZOOMY1 = 2.0;
+    d.ZOOMX2 = 3.0;
+    d.ZOOMY2 = 4.0;
+    d.F_ZOOM = true;
+    return d;
+}
 
-    void DibujaLista(GeneralDibujo& d, Entero recibido) override
-    {
-        ++llamadas;
-        isotropico = recibido;
-        elementos = d.NLISTA;
-    }
-
-    int llamadas = 0;
-    Entero isotropico = -1;  // -1 until the first showing
-    int elementos = -1;  // NLISTA at the last showing
-
-private:
-    Pantalla pantalla_;
-};
+// The counters, fit and zoom of DibujoEnUso, as they were.
+inline void EsperaSoloLaLista(const GeneralDibujo& d)
+{
+    const GeneralDibujo antes = DibujoEnUso();
+    EXPECT_EQ(d.NLINEA, antes.NLINEA);
+    EXPECT_EQ(d.NTIT, antes.NTIT);
+    EXPECT_EQ(d.NBARRA, antes.NBARRA);
+    EXPECT_EQ(d.NPUNTO, antes.NPUNTO);
+    EXPECT_EQ(d.NSECRECT, antes.NSECRECT);
+    EXPECT_EQ(d.NSECCIR, antes.NSECCIR);
+    EXPECT_EQ(d.ANCHOPIC, antes.ANCHOPIC);
+    EXPECT_EQ(d.ALTOPIC, antes.ALTOPIC);
+    EXPECT_EQ(d.ESCALAX, antes.ESCALAX);
+    EXPECT_EQ(d.ESCALAY, antes.ESCALAY);
+    EXPECT_EQ(d.ZOOM, antes.ZOOM);
+    EXPECT_EQ(d.ZOOMX1, antes.ZOOMX1);
+    EXPECT_EQ(d.ZOOMY1, antes.ZOOMY1);
+    EXPECT_EQ(d.ZOOMX2, antes.ZOOMX2);
+    EXPECT_EQ(d.ZOOMY2, antes.ZOOMY2);
+    EXPECT_EQ(d.F_ZOOM, antes.F_ZOOM);
+}
 
 }  // namespace texalon::prueba

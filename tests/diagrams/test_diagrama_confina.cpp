@@ -13,7 +13,6 @@
 namespace texalon {
 namespace {
 
-using prueba::DibujanteDePrueba;
 using prueba::Elemento;
 using prueba::EsperadoForma;
 using prueba::EsperadoLinea;
@@ -288,29 +287,13 @@ TEST(DiagramaConfina, SoloBorraLaBanderaDeSeccion)
     EXPECT_FALSE(d.F_CAPAS);
 }
 
-TEST(DiagramaConfina, SeDibujaEnLaPantallaDeConfinamientoSinIsotropia)
+TEST(DiagramaConfina, SoloEscribeLaLista)
 {
     const General g = ProyectoInicial();
-    GeneralDibujo d;
-    DibujanteDePrueba confina(Pantalla::Confina);
-    DibujanteDePrueba flexion(Pantalla::Flexion);
-    DibujanteDePrueba flexionT(Pantalla::FlexionT);
-    DibujanteDePrueba carac(Pantalla::Carac);
-    DiagramaConfina(g, d, ',');
-    EXPECT_EQ(confina.llamadas, 1);
-    EXPECT_EQ(confina.isotropico, 0);
-    EXPECT_EQ(confina.elementos, 56);
-    EXPECT_EQ(flexion.llamadas + flexionT.llamadas + carac.llamadas, 0);
-}
-
-TEST(DiagramaConfina, SinPantallaRegistradaSoloQuedaLaLista)
-{
-    const General g = ProyectoInicial();
-    GeneralDibujo d;
-    ASSERT_EQ(DibujanteDe(Pantalla::Confina), nullptr);
+    GeneralDibujo d = prueba::DibujoEnUso();
     DiagramaConfina(g, d, ',');
     EXPECT_EQ(d.NLISTA, 56);
-    EXPECT_EQ(d.ANCHOPIC, 0.0);
+    prueba::EsperaSoloLaLista(d);
 }
 
 }  // namespace

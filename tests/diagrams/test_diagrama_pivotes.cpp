@@ -14,7 +14,6 @@
 namespace texalon {
 namespace {
 
-using prueba::DibujanteDePrueba;
 using prueba::Elemento;
 using prueba::Lee;
 
@@ -158,23 +157,17 @@ TEST(DiagramaPivotes, CeldaRealConPuntoEscribeLosDieciochoElementos)
     EsperaCeldaPorDefecto(d, ".");
 }
 
-TEST(DiagramaPivotes, SeDibujaEnLaPantallaRectangularSinIsotropia)
+TEST(DiagramaPivotes, SoloEscribeLaLista)
 {
-    DibujanteDePrueba rectangular(Pantalla::Flexion);
-    DibujanteDePrueba enT(Pantalla::FlexionT);
     General g = CalculadoPorDefecto();
-    GeneralDibujo d;
+    GeneralDibujo d = prueba::DibujoEnUso();
     DiagramaPivotes(g, d, ResultadosFlexion(g, 1, 1, ','), ',');
-    EXPECT_EQ(rectangular.llamadas, 1);
-    EXPECT_EQ(rectangular.isotropico, 0);
-    EXPECT_EQ(rectangular.elementos, 18);
-    EXPECT_EQ(enT.llamadas, 0);
+    EXPECT_EQ(d.NLISTA, 18);
+    prueba::EsperaSoloLaLista(d);
 }
 
-TEST(DiagramaPivotesT, MismaListaEnLaPantallaDeLaSeccionT)
+TEST(DiagramaPivotesT, MismaListaQueLaRectangular)
 {
-    DibujanteDePrueba rectangular(Pantalla::Flexion);
-    DibujanteDePrueba enT(Pantalla::FlexionT);
     General g = CalculadoPorDefecto(2);
     const ResultadosCeldaFlexion celda = ResultadosFlexion(g, 1, 1, ',');
     ASSERT_EQ(celda.EPSC, "1,99");
@@ -184,13 +177,10 @@ TEST(DiagramaPivotesT, MismaListaEnLaPantallaDeLaSeccionT)
     ASSERT_EQ(celda.FN, "0,103");
     ASSERT_EQ(celda.PIVOTE, "R");
 
-    GeneralDibujo d;
+    GeneralDibujo d = prueba::DibujoEnUso();
     DiagramaPivotesT(g, d, celda, ',');
     EsperaCeldaPorDefecto(d, ",");
-    EXPECT_EQ(enT.llamadas, 1);
-    EXPECT_EQ(enT.isotropico, 0);
-    EXPECT_EQ(enT.elementos, 18);
-    EXPECT_EQ(rectangular.llamadas, 0);
+    prueba::EsperaSoloLaLista(d);
     EXPECT_TRUE(d.F_PIVOTES);
 }
 

@@ -13,7 +13,6 @@
 namespace texalon {
 namespace {
 
-using prueba::DibujanteDePrueba;
 using prueba::Elemento;
 using prueba::EsperadoLinea;
 using prueba::EsperadoPunto;
@@ -321,7 +320,6 @@ TEST(DiagramaTension, DeformacionPar18PorMilSeQueda)
 TEST(DiagramaTension, TipoFueraDeIntervaloDejaTodoPunteadoYFallaEnLaRejilla)
 {
     const General g = EstadoCaracteristicas(1);
-    DibujanteDePrueba carac(Pantalla::Carac);
     for (Entero tipo : {Entero{0}, Entero{4}}) {
         GeneralDibujo d;
         try {
@@ -335,7 +333,6 @@ TEST(DiagramaTension, TipoFueraDeIntervaloDejaTodoPunteadoYFallaEnLaRejilla)
         EXPECT_EQ(Lee(d, 3).estilo, 3.0);
         EXPECT_EQ(Lee(d, 3).ancho, 1.0);
     }
-    EXPECT_EQ(carac.llamadas, 0);
 }
 
 TEST(DiagramaTension, NoTocaNingunaBandera)
@@ -355,30 +352,13 @@ TEST(DiagramaTension, NoTocaNingunaBandera)
     }
 }
 
-TEST(DiagramaTension, SeDibujaEnLaPantallaDeCaracteristicasSinIsotropia)
+TEST(DiagramaTension, SoloEscribeLaLista)
 {
     const General g = EstadoCaracteristicas(1);
-    GeneralDibujo d;
-    DibujanteDePrueba carac(Pantalla::Carac);
-    DibujanteDePrueba flexion(Pantalla::Flexion);
-    DibujanteDePrueba flexionT(Pantalla::FlexionT);
-    DibujanteDePrueba confina(Pantalla::Confina);
-    DiagramaTension(g, d, 1, ',');
-    EXPECT_EQ(carac.llamadas, 1);
-    EXPECT_EQ(carac.isotropico, 0);
-    EXPECT_EQ(carac.elementos, 49);
-    EXPECT_EQ(flexion.llamadas + flexionT.llamadas + confina.llamadas, 0);
-}
-
-TEST(DiagramaTension, SinPantallaRegistradaSoloQuedaLaLista)
-{
-    const General g = EstadoCaracteristicas(1);
-    GeneralDibujo d;
-    ASSERT_EQ(DibujanteDe(Pantalla::Carac), nullptr);
+    GeneralDibujo d = prueba::DibujoEnUso();
     DiagramaTension(g, d, 1, ',');
     EXPECT_EQ(d.NLISTA, 49);
-    EXPECT_EQ(d.ESCALAX, 0.0);
-    EXPECT_EQ(d.ANCHOPIC, 0.0);
+    prueba::EsperaSoloLaLista(d);
 }
 
 }  // namespace

@@ -1,5 +1,4 @@
 // The display list's writers and the fit that every renderer shares.
-#include "diagrams/Dibujante.h"
 #include "diagrams/Lista.h"
 #include "Elementos.h"
 
@@ -243,33 +242,57 @@ TEST(AjustaGuardado, UsaElTamanoGuardadoAunqueSeaDeCentimetros)
     EXPECT_EQ(d.ANCHOPIC, 8.5);
 }
 
-// ---- The seam to the screens' pictures.
-
-TEST(DibujaEnPantalla, LlegaSoloAlDibujoDeSuPantalla)
+TEST(Encuadra, ElMismoAjusteSinGuardarNada)
 {
     GeneralDibujo d = ListaVacia();
-    prueba::DibujanteDePrueba confina(Pantalla::Confina);
-    DibujaEnPantalla(Pantalla::Flexion, d, 0);
-    EXPECT_EQ(confina.llamadas, 0);
-    DibujaEnPantalla(Pantalla::Confina, d, 1);
-    EXPECT_EQ(confina.llamadas, 1);
-    EXPECT_EQ(confina.isotropico, 1);
+    Eje(d, 0, 0, 10, 5);
+    d.ANCHOPIC = 17.0;
+    d.ALTOPIC = 25.7;
+    d.ESCALAX = 1.5;
+    d.ESCALAY = 2.5;
+    const Encuadre e = Encuadra(d, 400, 300, kIsotropico);
+    EXPECT_EQ(e.ancho, 400.0);
+    EXPECT_EQ(e.alto, 300.0);
+    EXPECT_DOUBLE_EQ(e.escalaX, 32);
+    EXPECT_DOUBLE_EQ(e.escalaY, 32);
+    EXPECT_DOUBLE_EQ(e.X(0), 40);
+    EXPECT_DOUBLE_EQ(e.Y(0), 230);
+    // The drawing state is as it was: a picture drawn for a file leaves it so.
+    EXPECT_EQ(d.ANCHOPIC, 17.0);
+    EXPECT_EQ(d.ALTOPIC, 25.7);
+    EXPECT_EQ(d.ESCALAX, 1.5);
+    EXPECT_EQ(d.ESCALAY, 2.5);
+    // Ajusta stores the very same fit.
+    const Encuadre guardado = Ajusta(d, 400, 300, kIsotropico);
+    EXPECT_EQ(guardado.ox, e.ox);
+    EXPECT_EQ(guardado.oy, e.oy);
+    EXPECT_EQ(d.ANCHOPIC, 400.0);
+    EXPECT_EQ(d.ESCALAX, e.escalaX);
+    EXPECT_EQ(d.ESCALAY, e.escalaY);
 }
 
-TEST(DibujaEnPantalla, SinDibujoRegistradoNoHaceNada)
+// ---- The place of a text by its kind, on the picture and on paper alike.
+
+TEST(ColocaTexto, CentradoEnSuAnclaje)
 {
-    GeneralDibujo d = ListaVacia();
-    {
-        prueba::DibujanteDePrueba carac(Pantalla::Carac);
-    }
-    EXPECT_EQ(DibujanteDe(Pantalla::Carac), nullptr);
-    DibujaEnPantalla(Pantalla::Carac, d, 0);
+    const EsquinaTexto e = ColocaTexto(Clase::Texto, 100, 50, 30, 12);
+    EXPECT_DOUBLE_EQ(e.izquierda, 85);
+    EXPECT_DOUBLE_EQ(e.arriba, 44);
 }
 
-TEST(TamanoDe, LasDosPantallasDeFlexionTienenElMismoDibujo)
+TEST(ColocaTexto, AcabaUnTercioDeSuAnchoALaIzquierdaDelAnclaje)
 {
-    EXPECT_EQ(TamanoDe(Pantalla::Flexion).ancho, TamanoDe(Pantalla::FlexionT).ancho);
-    EXPECT_EQ(TamanoDe(Pantalla::Flexion).alto, TamanoDe(Pantalla::FlexionT).alto);
+    const EsquinaTexto e = ColocaTexto(Clase::TextoIzquierda, 100, 50, 30, 12);
+    EXPECT_DOUBLE_EQ(e.izquierda, 60);
+    EXPECT_DOUBLE_EQ(e.izquierda + 30, 100 - 30.0 / 3);
+    EXPECT_DOUBLE_EQ(e.arriba, 44);
+}
+
+TEST(ColocaTexto, EmpiezaUnTercioDeSuAnchoALaDerechaDelAnclaje)
+{
+    const EsquinaTexto e = ColocaTexto(Clase::TextoDerecha, 100, 50, 30, 12);
+    EXPECT_DOUBLE_EQ(e.izquierda, 110);
+    EXPECT_DOUBLE_EQ(e.arriba, 44);
 }
 
 }  // namespace

@@ -449,14 +449,14 @@ class PruebaPrograma : public QObject {
     QStringList TextosDelDibujo() const
     {
         QStringList textos;
-        for (const ElementoPantalla& e : Dibujo()->Elementos(ClasePantalla::Tit))
+        for (const ElementoPantalla& e : Dibujo()->Escena().Elementos(ClasePantalla::Tit))
             if (e.visible) textos << e.texto;
         return textos;
     }
 
     int LineasDelDibujo() const
     {
-        const auto lineas = Dibujo()->Elementos(ClasePantalla::Linea);
+        const auto lineas = Dibujo()->Escena().Elementos(ClasePantalla::Linea);
         return static_cast<int>(std::count_if(lineas.begin(), lineas.end(), [](const auto& e) { return e.visible; }));
     }
 

@@ -125,7 +125,7 @@ Proyecto Calculado(Entero seccion, double md, double cantoAla = defecto::CANTOAL
 struct Informe {
     ImpresoraDoble impresora;
     GeneralDibujo d;
-    Impresion resultado = Impresion::Impreso;
+    Impresion resultado = Impresion::ConDiagramas;
 };
 
 // The report of a cell of the project, as Print runs it.
@@ -188,7 +188,7 @@ TEST(InformeFlexion, RectangularConMd250ImprimeCadaFilaEnSuSitio)
     ASSERT_EQ(p.veredicto, Veredicto::Oculto);
     Informe informe;
     Imprime(informe, p, false, '.');
-    EXPECT_EQ(informe.resultado, Impresion::Impreso);
+    EXPECT_EQ(informe.resultado, Impresion::ConDiagramas);
     EsperaTextos(TextosAntesDeLosDiagramas(informe.impresora.operaciones),
                  Pagina1(kTituloRectangular, DatosGenerales('.', false, "250.00"), Resultados('.', "692.4")));
 }
@@ -210,7 +210,7 @@ TEST(InformeFlexionT, PorDefectoConMd250ImprimeCadaFilaEnSuSitio)
         ASSERT_EQ(p.veredicto, Veredicto::Oculto);
         Informe informe;
         Imprime(informe, p, true, sep);
-        EXPECT_EQ(informe.resultado, Impresion::Impreso);
+        EXPECT_EQ(informe.resultado, Impresion::ConDiagramas);
         EsperaTextos(TextosAntesDeLosDiagramas(informe.impresora.operaciones),
                      Pagina1(kTituloT, DatosGenerales(sep, true, "250.00"), Resultados(sep, "618.6")));
     }
@@ -400,7 +400,7 @@ TEST(InformeFlexionT, CantoDelAlaIgualAlCantoImprimeComoOtra)
     const ResultadosCeldaFlexion celda = ResultadosFlexion(p.g, 1, 1, '.');
     Informe informe;
     Imprime(informe, p, true, celda, '.');
-    EXPECT_EQ(informe.resultado, Impresion::Impreso);
+    EXPECT_EQ(informe.resultado, Impresion::ConDiagramas);
     // The whole section is flange: the limit moment is that of the rectangle of the same width.
     EsperaTextos(TextosAntesDeLosDiagramas(informe.impresora.operaciones),
                  Pagina1(kTituloT, DatosGenerales('.', true, "250.00", "0.600"), Resultados('.', "692.4")));
@@ -441,7 +441,7 @@ void EsperaSinResultados(double md, bool enT, char sep, const std::string& vered
     Informe informe;
     NuevaLista(informe.d);
     Imprime(informe, p, enT, sep);
-    EXPECT_EQ(informe.resultado, Impresion::Impreso);
+    EXPECT_EQ(informe.resultado, Impresion::SoloVeredicto);
     const auto& ops = informe.impresora.operaciones;
 
     std::vector<Texto> esperados = Marco(enT ? kTituloT : kTituloRectangular, 1);

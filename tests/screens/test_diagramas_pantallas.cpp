@@ -3,6 +3,7 @@
 // option, the zoom with the mouse, and the counters cleared by the close.
 #include "comun/Pantallas.h"
 #include "comun/Usuario.h"
+#include "diagrams/Lista.h"
 #include "diagrams/qt/Lienzo.h"
 #include "platform/dobles/PlataformaDoble.h"
 #include "screens/FmCarac.h"
@@ -49,7 +50,7 @@ class PruebaDiagramasPantallas : public prueba::PruebaDePantalla {
     QStringList Textos(const char* dibujo)
     {
         QStringList textos;
-        for (const ElementoPantalla& e : Dibujo(dibujo)->Elementos(ClasePantalla::Tit))
+        for (const ElementoPantalla& e : Dibujo(dibujo)->Escena().Elementos(ClasePantalla::Tit))
             if (e.visible) textos << e.texto;
         return textos;
     }
@@ -95,7 +96,7 @@ class PruebaDiagramasPantallas : public prueba::PruebaDePantalla {
         const QImage imagen = Pintado(dibujo);
         for (int tipo = 1; tipo <= Estado().NTIPOS; ++tipo) {
             bool vista = false;
-            for (const ElementoPantalla& e : Dibujo(dibujo)->Elementos(ClasePantalla::Linea))
+            for (const ElementoPantalla& e : Dibujo(dibujo)->Escena().Elementos(ClasePantalla::Linea))
                 if (e.grosor == 2 && e.color == Catalogo(tipo) &&
                     ColorCerca(imagen, QPointF((e.x1 + e.x2) / 2, (e.y1 + e.y2) / 2), Catalogo(tipo)))
                     vista = true;
@@ -139,11 +140,11 @@ private slots:
         QVERIFY(Textos("PIC_FLEXION").contains(QStringLiteral("DIAGRAMA DE MOMENTOS ULTIMOS")));
         QVERIFY(Textos("PIC_FLEXION").contains(QStringLiteral("Nº capas")));
         QVERIFY(d.NLINEA > 0);
-        QCOMPARE(static_cast<int>(Dibujo("PIC_FLEXION")->Elementos(ClasePantalla::Linea).size()), int(d.NLINEA));
-        QCOMPARE(static_cast<int>(Dibujo("PIC_FLEXION")->Elementos(ClasePantalla::Tit).size()), int(d.NTIT));
+        QCOMPARE(static_cast<int>(Dibujo("PIC_FLEXION")->Escena().Elementos(ClasePantalla::Linea).size()), int(d.NLINEA));
+        QCOMPARE(static_cast<int>(Dibujo("PIC_FLEXION")->Escena().Elementos(ClasePantalla::Tit).size()), int(d.NTIT));
         // The fit used the picture's own size.
-        QCOMPARE(d.ANCHOPIC, double(TamanoDe(Pantalla::Flexion).ancho));
-        QCOMPARE(d.ALTOPIC, double(TamanoDe(Pantalla::Flexion).alto));
+        QCOMPARE(d.ANCHOPIC, double(kPicFlexion.tamano.ancho));
+        QCOMPARE(d.ALTOPIC, double(kPicFlexion.tamano.alto));
     }
 
     void losBotonesDeFlexionDibujanSuDiagrama()
@@ -220,6 +221,63 @@ private slots:
         QCOMPARE(Textos("PIC_FLEXION"), seccion);
     }
 
+    // Every diagram command of a screen builds its list and shows it on the screen's own
+    // picture, fitted to the picture's pixels with the procedure's isotropic setting: one
+    // scale for the section drawings, one of its own each way for the charts.
+    void cadaOrdenMuestraSuDiagramaConSuAjuste_data()
+    {
+        QTest::addColumn<QString>("pantalla");
+        QTest::addColumn<QString>("boton");  // pressed after a Calculate; empty: the Calculate's chart
+        QTest::addColumn<int>("isotropico");
+        for (const char* flexion : {"FM_FLEXION", "FM_FLEXIONT"}) {
+            QTest::addRow("%s, Calcular", flexion) << flexion << QString() << 0;
+            QTest::addRow("%s, CM_ARMADURA", flexion) << flexion << QStringLiteral("CM_ARMADURA") << 0;
+            QTest::addRow("%s, CM_CAPAS", flexion) << flexion << QStringLiteral("CM_CAPAS") << 0;
+            QTest::addRow("%s, CM_DEFORMACIONES", flexion) << flexion << QStringLiteral("CM_DEFORMACIONES") << 0;
+            QTest::addRow("%s, CM_SECCION", flexion) << flexion << QStringLiteral("CM_SECCION") << 1;
+        }
+        QTest::newRow("FM_CONFINA, Calcular") << QStringLiteral("FM_CONFINA") << QString() << 0;
+        QTest::newRow("FM_CONFINA, CM_CONFINA") << QStringLiteral("FM_CONFINA") << QStringLiteral("CM_CONFINA") << 0;
+        QTest::newRow("FM_CONFINA, CM_SECCION") << QStringLiteral("FM_CONFINA") << QStringLiteral("CM_SECCION") << 1;
+        QTest::newRow("FM_CARAC, al abrir") << QStringLiteral("FM_CARAC") << QString() << 0;
+        QTest::newRow("FM_CARAC, OP_TH") << QStringLiteral("FM_CARAC") << QStringLiteral("OP_TH") << 0;
+    }
+
+    void cadaOrdenMuestraSuDiagramaConSuAjuste()
+    {
+        QFETCH(QString, pantalla);
+        QFETCH(QString, boton);
+        QFETCH(int, isotropico);
+        const texalon::Dibujo* dibujo = &kPicFlexion;
+        if (pantalla == QLatin1String("FM_FLEXION")) Abre<FmFlexion>(false);
+        if (pantalla == QLatin1String("FM_FLEXIONT")) Abre<FmFlexion>(true);
+        if (pantalla == QLatin1String("FM_CONFINA")) {
+            Abre<FmConfina>();
+            dibujo = &kPicConfina;
+        }
+        if (pantalla == QLatin1String("FM_CARAC")) {
+            Abre<FmCarac>();
+            dibujo = &kPicCarac;
+        } else {
+            prueba::Pulsa(C("CM_CALCULAR"));
+        }
+        if (!boton.isEmpty()) prueba::Pulsa(C(qPrintable(boton)));
+
+        const GeneralDibujo& d = EstadoDibujo();
+        const TamanoDibujo tamano = dibujo->tamano;
+        QCOMPARE(d.ANCHOPIC, double(tamano.ancho));
+        QCOMPARE(d.ALTOPIC, double(tamano.alto));
+        const Encuadre suyo = Encuadra(d, tamano.ancho, tamano.alto, Entero(isotropico));
+        const Encuadre otro = Encuadra(d, tamano.ancho, tamano.alto, Entero(1 - isotropico));
+        // The two settings fit this list differently, so the fit tells which one was used.
+        QVERIFY(suyo.escalaX != otro.escalaX || suyo.escalaY != otro.escalaY);
+        QCOMPARE(d.ESCALAX, suyo.escalaX);
+        QCOMPARE(d.ESCALAY, suyo.escalaY);
+        // The picture shows the list so.
+        const QString diferencia = prueba::DiferenciaConLaLista(*Dibujo(dibujo->nombre), d, Entero(isotropico));
+        QVERIFY2(diferencia.isEmpty(), qPrintable(diferencia));
+    }
+
     void calcularConfinamientoDejaSuDiagramaYLosBotonesDibujan()
     {
         Abre<FmConfina>();
@@ -275,7 +333,7 @@ private slots:
         Abre<FmConfina>();
         prueba::Pulsa(C("CM_CALCULAR"));
         Lienzo* dibujo = Dibujo("PIC_CONFINA");
-        const double letra = dibujo->Elementos(ClasePantalla::Tit).front().tamano;
+        const double letra = dibujo->Escena().Elementos(ClasePantalla::Tit).front().tamano;
         QTest::mouseClick(dibujo->viewport(), Qt::LeftButton, {}, QPoint(100, 50));
         QTest::mouseMove(dibujo->viewport(), QPoint(210, 103));
         QVERIFY(dibujo->BandaVisible());
@@ -283,9 +341,9 @@ private slots:
         QTest::mouseClick(dibujo->viewport(), Qt::LeftButton, {}, QPoint(210, 103));
         // 440 / 110 and 212 / 53: the picture's size over the band's.
         QCOMPARE(EstadoDibujo().ZOOM, 4.0);
-        QCOMPARE(dibujo->Elementos(ClasePantalla::Tit).front().tamano, letra * 4);
+        QCOMPARE(dibujo->Escena().Elementos(ClasePantalla::Tit).front().tamano, letra * 4);
         QTest::mouseClick(dibujo->viewport(), Qt::RightButton, {}, QPoint(5, 5));
-        QCOMPARE(dibujo->Elementos(ClasePantalla::Tit).front().tamano, letra);
+        QCOMPARE(dibujo->Escena().Elementos(ClasePantalla::Tit).front().tamano, letra);
     }
 
     void laBandaEmpezadaSobreviveAUnDiagramaNuevo()
@@ -320,13 +378,13 @@ private slots:
         CurvasEnSusColores("PIC_FLEXION");
         // The marker of MD, thick and plum.
         bool marca = false;
-        for (const ElementoPantalla& e : Dibujo("PIC_FLEXION")->Elementos(ClasePantalla::Linea))
+        for (const ElementoPantalla& e : Dibujo("PIC_FLEXION")->Escena().Elementos(ClasePantalla::Linea))
             if (e.grosor == 3 && e.color == QColor(128, 0, 64)) marca = LineaVista(Pintado("PIC_FLEXION"), e);
         QVERIFY(marca);
         // The pivots: red circles.
         prueba::Pulsa(C("CM_DEFORMACIONES"));
         const QImage pivotes = Pintado("PIC_FLEXION");
-        const auto puntos = Dibujo("PIC_FLEXION")->Elementos(ClasePantalla::Punto);
+        const auto puntos = Dibujo("PIC_FLEXION")->Escena().Elementos(ClasePantalla::Punto);
         QCOMPARE(int(puntos.size()), 3);
         // A hollow circle of a one-pixel rim, antialiased: somewhere on it the red is plain.
         for (const ElementoPantalla& p : puntos) {
@@ -343,7 +401,7 @@ private slots:
         // alone; zoomed four times over the sheet, their fill shows.
         prueba::Pulsa(C("CM_SECCION"));
         Lienzo* dibujo = Dibujo("PIC_FLEXION");
-        const ElementoPantalla lamina = dibujo->Elementos(ClasePantalla::Barra).back();
+        const ElementoPantalla lamina = dibujo->Escena().Elementos(ClasePantalla::Barra).back();
         QCOMPARE(lamina.color, QColor(255, 0, 0));
         const QPoint esquina(qRound(lamina.izquierda) - 5, qRound(lamina.arriba) - 20);
         QTest::mouseClick(dibujo->viewport(), Qt::LeftButton, {}, esquina);
@@ -352,7 +410,7 @@ private slots:
         QCOMPARE(EstadoDibujo().ZOOM, 4.0);
         QTest::mouseMove(dibujo->viewport(), QPoint(1, 1));
         const QImage seccion = Pintado("PIC_FLEXION");
-        const ElementoPantalla ampliada = dibujo->Elementos(ClasePantalla::Barra).back();
+        const ElementoPantalla ampliada = dibujo->Escena().Elementos(ClasePantalla::Barra).back();
         QVERIFY(ampliada.alto >= 4);
         QVERIFY(ColorCerca(seccion, QPointF(ampliada.izquierda + ampliada.ancho / 2, ampliada.arriba + ampliada.alto / 2),
                            QColor(255, 0, 0)));
@@ -362,7 +420,7 @@ private slots:
         const QImage barras = Pintado("PIC_CONFINA");
         for (int tipo = 1; tipo <= Estado().NTIPOS; ++tipo) {
             bool vista = false;
-            for (const ElementoPantalla& b : Dibujo("PIC_CONFINA")->Elementos(ClasePantalla::Barra))
+            for (const ElementoPantalla& b : Dibujo("PIC_CONFINA")->Escena().Elementos(ClasePantalla::Barra))
                 if (b.color == Catalogo(tipo) && b.alto > 4 &&
                     ColorCerca(barras, QPointF(b.izquierda + b.ancho / 2, b.arriba + b.alto / 2), Catalogo(tipo)))
                     vista = true;
@@ -371,7 +429,7 @@ private slots:
         // The column: grey within a red rim, the earlier element in front.
         prueba::Pulsa(C("CM_SECCION"));
         const QImage columna = Pintado("PIC_CONFINA");
-        const auto formas = Dibujo("PIC_CONFINA")->Elementos(ClasePantalla::SecCir);
+        const auto formas = Dibujo("PIC_CONFINA")->Escena().Elementos(ClasePantalla::SecCir);
         QCOMPARE(int(formas.size()), 2);
         const ElementoPantalla& hormigon = formas[0];
         const ElementoPantalla& refuerzo = formas[1];
@@ -383,7 +441,7 @@ private slots:
         Abre<FmCarac>();
         const QImage tension = Pintado("PIC_CARAC");
         bool linea = false;
-        for (const ElementoPantalla& e : Dibujo("PIC_CARAC")->Elementos(ClasePantalla::Linea))
+        for (const ElementoPantalla& e : Dibujo("PIC_CARAC")->Escena().Elementos(ClasePantalla::Linea))
             if (e.grosor == 2 && e.color == Catalogo(1))
                 linea = ColorCerca(tension, QPointF((e.x1 + e.x2) / 2, (e.y1 + e.y2) / 2), Catalogo(1));
         QVERIFY(linea);
@@ -408,9 +466,9 @@ private slots:
         Abre<FmCarac>();
         EstadoDibujo().F_SECCION = true;
         Lienzo* dibujo = Dibujo("PIC_CARAC");
-        const ElementoPantalla eje = dibujo->Elementos(ClasePantalla::Linea).front();
+        const ElementoPantalla eje = dibujo->Escena().Elementos(ClasePantalla::Linea).front();
         QTest::mouseClick(dibujo->viewport(), Qt::RightButton, {}, QPoint(5, 5));
-        const ElementoPantalla otraVez = dibujo->Elementos(ClasePantalla::Linea).front();
+        const ElementoPantalla otraVez = dibujo->Escena().Elementos(ClasePantalla::Linea).front();
         QCOMPARE(otraVez.x2, eje.x2);
         QCOMPARE(otraVez.y2, eje.y2);
     }
@@ -423,8 +481,9 @@ private slots:
         CierraPantalla();
         const GeneralDibujo& d = EstadoDibujo();
         QCOMPARE(d.NLINEA + d.NTIT + d.NBARRA + d.NPUNTO + d.NSECRECT + d.NSECCIR, 0);
-        // The picture went with its screen: the diagrams have nowhere to draw.
-        QCOMPARE(DibujanteDe(Pantalla::Flexion), nullptr);
+        // The picture went with its screen.
+        for (QWidget* widget : QApplication::allWidgets())
+            QVERIFY(qobject_cast<Lienzo*>(widget) == nullptr);
     }
 };
 

@@ -3,6 +3,8 @@
 // keys and clicks in between.
 #include "comun/Principal.h"
 #include "comun/Usuario.h"
+#include "comun/Pantallas.h"
+#include "diagrams/Lista.h"
 #include "diagrams/qt/Lienzo.h"
 #include "platform/Dialogos.h"
 #include "platform/dobles/PlataformaDoble.h"
@@ -340,7 +342,7 @@ class PruebaImpresion : public prueba::PruebaDePrincipal {
     QStringList TextosDelDibujo(const char* dibujo) const
     {
         QStringList textos;
-        for (const ElementoPantalla& e : qobject_cast<Lienzo*>(C(dibujo))->Elementos(ClasePantalla::Tit))
+        for (const ElementoPantalla& e : qobject_cast<Lienzo*>(C(dibujo))->Escena().Elementos(ClasePantalla::Tit))
             textos << e.texto;
         return textos;
     }
@@ -681,6 +683,77 @@ private slots:
         // No diagram: one change of scale, the set-up's.
         QCOMPARE(Cuenta("ScaleMode"), 1);
         QCOMPARE(Operaciones()[Operaciones().size() - 2].texto, kNoEsNecesario);
+    }
+
+    // ---- What a report leaves on the screen.
+
+    // The picture of the open screen shows the last diagram that the report built, fitted to
+    // the picture's pixels, while the fit in store is the page's, in centimetres: a zoom or a
+    // right click then works with those small numbers.
+    void elDibujoQuedaConElUltimoDiagramaYElAjusteDelPapel_data()
+    {
+        QTest::addColumn<QString>("orden");
+        QTest::addColumn<QString>("dibujo");
+        QTest::addColumn<int>("isotropico");
+        QTest::newRow("FM_FLEXION") << QStringLiteral("mnuCalcularFlexion") << QStringLiteral("PIC_FLEXION") << 0;
+        QTest::newRow("FM_FLEXIONT") << QStringLiteral("mnuCalcularFlexionT") << QStringLiteral("PIC_FLEXION") << 0;
+        QTest::newRow("FM_CONFINA") << QStringLiteral("mnuCalcularConfina") << QStringLiteral("PIC_CONFINA") << 1;
+        QTest::newRow("FM_CARAC") << QStringLiteral("mnuCalcularCarac") << QStringLiteral("PIC_CARAC") << 0;
+    }
+
+    void elDibujoQuedaConElUltimoDiagramaYElAjusteDelPapel()
+    {
+        QFETCH(QString, orden);
+        QFETCH(QString, dibujo);
+        QFETCH(int, isotropico);
+        Arranca();
+        if (orden == QLatin1String("mnuCalcularFlexion") || orden == QLatin1String("mnuCalcularFlexionT"))
+            FlexionCalculada(orden.endsWith(QLatin1Char('T')), "250");
+        else if (orden == QLatin1String("mnuCalcularConfina"))
+            ConfinamientoCalculado();
+        else
+            QVERIFY(Orden(qPrintable(orden)));
+        auto* lienzo = qobject_cast<Lienzo*>(C(qPrintable(dibujo)));
+        // A zoom on the picture before the report.
+        QTest::mouseClick(lienzo->viewport(), Qt::LeftButton, {}, QPoint(100, 60));
+        QTest::mouseMove(lienzo->viewport(), QPoint(150, 90));
+        QTest::mouseClick(lienzo->viewport(), Qt::LeftButton, {}, QPoint(150, 90));
+
+        QVERIFY(Imprime(QStringLiteral("menú")));
+        const GeneralDibujo& d = EstadoDibujo();
+        // The last ImprimeLista's area, within a page of 20 × 28.7 cm less its margins.
+        QVERIFY(d.ANCHOPIC > 1.0 && d.ANCHOPIC < 20.0);
+        QVERIFY(d.ALTOPIC > 1.0 && d.ALTOPIC < 28.7);
+        const Encuadre papel = Encuadra(d, d.ANCHOPIC, d.ALTOPIC, Entero(isotropico));
+        QCOMPARE(d.ESCALAX, papel.escalaX);
+        QCOMPARE(d.ESCALAY, papel.escalaY);
+        // On the screen the same list, fitted to the picture and no longer zoomed, counted by
+        // the state's counters.
+        const QString diferencia = prueba::DiferenciaConLaLista(*lienzo, d, Entero(isotropico));
+        QVERIFY2(diferencia.isEmpty(), qPrintable(diferencia));
+    }
+
+    // A report with the verdict in place of the results builds no diagram: the picture keeps
+    // what it showed, zoom and all.
+    void conElVeredictoElDibujoSeQuedaComoEstaba()
+    {
+        Arranca();
+        FlexionCalculada(false);
+        QVERIFY(C("LB_INFO")->isVisible());
+        auto* lienzo = qobject_cast<Lienzo*>(C("PIC_FLEXION"));
+        QTest::mouseClick(lienzo->viewport(), Qt::LeftButton, {}, QPoint(100, 60));
+        QTest::mouseMove(lienzo->viewport(), QPoint(150, 90));
+        QTest::mouseClick(lienzo->viewport(), Qt::LeftButton, {}, QPoint(150, 90));
+        const ElementoPantalla ampliada = lienzo->Escena().Elementos(ClasePantalla::Linea).front();
+        const double anchoPic = EstadoDibujo().ANCHOPIC;
+        QCOMPARE(anchoPic, double(kPicFlexion.tamano.ancho));
+        QVERIFY(Imprime(QStringLiteral("barra")));
+        QCOMPARE(Cuenta("ScaleMode"), 1);
+        const ElementoPantalla despues = lienzo->Escena().Elementos(ClasePantalla::Linea).front();
+        QCOMPARE(despues.x1, ampliada.x1);
+        QCOMPARE(despues.y1, ampliada.y1);
+        QCOMPARE(despues.x2, ampliada.x2);
+        QCOMPARE(EstadoDibujo().ANCHOPIC, anchoPic);
     }
 
     // ---- Again and again.

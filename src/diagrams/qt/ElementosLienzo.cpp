@@ -56,6 +56,14 @@ QColor ColorDeLista(double color)
     return {c.rojo, c.verde, c.azul};
 }
 
+QPen BordeFino(const QColor& color)
+{
+    QPen pluma(color);
+    pluma.setCosmetic(true);
+    pluma.setWidth(1);
+    return pluma;
+}
+
 void FijaBorde(QGraphicsLineItem* linea, const QColor& color, int estilo, int grosor)
 {
     QPen pluma(color);
@@ -94,6 +102,7 @@ void Rotulo::FijaFuente(double tamano, bool negrita)
     negrita_ = negrita;
     Mide();
 }
+
 
 void Rotulo::FijaColor(const QColor& color)
 {

@@ -8,17 +8,20 @@
 #include <QColor>
 #include <QFont>
 #include <QGraphicsItem>
+#include <QGraphicsLineItem>
 #include <QGraphicsPathItem>
+#include <QPen>
 #include <QRectF>
 #include <QSizeF>
 #include <QString>
-
-class QGraphicsLineItem;
 
 namespace texalon {
 
 // The colour of a list element: red + 256 × green + 65536 × blue, rounded to an integer.
 QColor ColorDeLista(double color);
+
+// A one-pixel border, as the shapes of the picture and its zoom band have whatever the zoom.
+QPen BordeFino(const QColor& color);
 
 // The pen of a line: BorderColor, BorderStyle (0 none, 1 solid, 2 dashed, 3 dotted, 4 dash-dot,
 // 5 dash-dot-dot, 6 solid inside) and BorderWidth in pixels, whatever the zoom.

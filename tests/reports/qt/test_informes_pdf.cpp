@@ -397,7 +397,7 @@ void ImprimeInforme(Informe informe, Impresora& impresora, char separador)
         const ResultadosCeldaFlexion celda = ResultadosFlexion(g, 1, 1, separador);
         const Impresion impresion =
             (enT ? InformeFlexionT : InformeFlexion)(impresora, g, d, celda, resultado.veredicto, separador);
-        QCOMPARE(impresion, Impresion::Impreso);
+        QCOMPARE(impresion, Impresion::ConDiagramas);
         break;
     }
     case Informe::Confinamiento:
