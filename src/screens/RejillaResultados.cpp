@@ -5,8 +5,10 @@
 #include <QHeaderView>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QPixmap>
 #include <QStyledItemDelegate>
 #include <algorithm>
+#include <unordered_map>
 
 namespace texalon {
 
@@ -17,6 +19,10 @@ constexpr double kTwipsPorPixel = 15.0;
 // Paints a cell with its own background also when it is the current one: a yellow cell has to
 // read as yellow while its results are on show. The current cell gets a frame instead of the
 // selection colour, and only while the grid is active.
+//
+// A cell's picture depends only on its text, letters, background and size, and the grid is
+// painted far more often than a cell changes (every change of focus repaints it whole): each
+// picture is drawn once by the style and kept.
 class PintorCelda : public QStyledItemDelegate {
 public:
     explicit PintorCelda(RejillaResultados* rejilla) : QStyledItemDelegate(rejilla), rejilla_(rejilla) {}
@@ -24,14 +30,44 @@ public:
     void paint(QPainter* pintor, const QStyleOptionViewItem& opcion, const QModelIndex& indice) const override
     {
         QStyleOptionViewItem celda(opcion);
+        initStyleOption(&celda, indice);
         celda.state &= ~(QStyle::State_Selected | QStyle::State_HasFocus);
         // The classic grid keeps its black text when it is disabled: the old table stays legible.
         celda.state |= QStyle::State_Enabled;
-        QStyledItemDelegate::paint(pintor, celda, indice);
+        pintor->drawPixmap(opcion.rect.topLeft(), Imagen(celda, indice));
         if (rejilla_->EstaActiva() && indice == rejilla_->currentIndex()) DibujaMarco(pintor, opcion);
     }
 
 private:
+    // The cell as the style paints it, from the store.
+    const QPixmap& Imagen(const QStyleOptionViewItem& celda, const QModelIndex& indice) const
+    {
+        // Everything the style's painting of a cell reads.
+        const QString clave = QStringLiteral("%1|%2|%3|%4x%5|%6|%7|%8|%9")
+                                  .arg(celda.text, celda.font.key())
+                                  .arg(celda.backgroundBrush.color().rgba())
+                                  .arg(celda.rect.width())
+                                  .arg(celda.rect.height())
+                                  .arg(celda.palette.color(QPalette::Text).rgba())
+                                  .arg(static_cast<int>(celda.displayAlignment))
+                                  .arg(static_cast<int>(celda.state))
+                                  .arg(static_cast<int>(celda.features));
+        auto guardada = imagenes_.find(clave);
+        if (guardada != imagenes_.end()) return guardada->second;
+        const qreal escala = rejilla_->devicePixelRatioF();
+        QPixmap imagen(celda.rect.size() * escala);
+        imagen.setDevicePixelRatio(escala);
+        imagen.fill(celda.backgroundBrush.color());
+        QPainter pintor(&imagen);
+        QStyleOptionViewItem enElOrigen(celda);
+        enElOrigen.rect.moveTo(0, 0);
+        QStyledItemDelegate::paint(&pintor, enElOrigen, indice);
+        pintor.end();
+        // A grid holds a few dozen cells; the store is emptied before it could grow past them.
+        if (imagenes_.size() > kImagenesGuardadas) imagenes_.clear();
+        return imagenes_.emplace(clave, imagen).first->second;
+    }
+
     static void DibujaMarco(QPainter* pintor, const QStyleOptionViewItem& opcion)
     {
         pintor->save();
@@ -45,7 +81,9 @@ private:
         pintor->restore();
     }
 
+    static constexpr std::size_t kImagenesGuardadas = 256;
     const RejillaResultados* rejilla_;
+    mutable std::unordered_map<QString, QPixmap> imagenes_;
 };
 
 }  // namespace
@@ -75,6 +113,9 @@ RejillaResultados::RejillaResultados(QWidget* padre) : QTableWidget(padre)
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     setFocusPolicy(Qt::StrongFocus);
     setItemDelegate(new PintorCelda(this));
+    // The grid paints every pixel of its own: its one-pixel frame and the cells within it. The
+    // panel around it need not be painted again under it each time the grid changes.
+    setAttribute(Qt::WA_OpaquePaintEvent);
 
     connect(this, &QTableWidget::currentCellChanged, this,
             [this](int fila, int columna, int, int) { AvisaCambio(fila, columna); });
@@ -83,11 +124,19 @@ RejillaResultados::RejillaResultados(QWidget* padre) : QTableWidget(padre)
 void RejillaResultados::Dimensiona(int filas, int columnas, int altoFilaTwips, int anchoColumnaTwips,
                                    int anchoColumna0Twips)
 {
-    // Emptying first drops every old cell and the current one with them.
-    setRowCount(0);
-    setColumnCount(0);
-    setRowCount(filas);
-    setColumnCount(columnas);
+    if (filas == rowCount() && columnas == columnCount()) {
+        // The grid keeps its rows and columns, and so its layout: a new Calculate fills the
+        // same table without the grid and the panel around it being laid out and painted anew.
+        // Only the current cell goes.
+        clearSelection();
+        selectionModel()->setCurrentIndex(QModelIndex(), QItemSelectionModel::NoUpdate);
+    } else {
+        // Emptying first drops every old cell and the current one with them.
+        setRowCount(0);
+        setColumnCount(0);
+        setRowCount(filas);
+        setColumnCount(columnas);
+    }
     for (int fila = 0; fila < filas; ++fila) {
         setRowHeight(fila, PixelesDeTwips(altoFilaTwips));
         for (int columna = 0; columna < columnas; ++columna)

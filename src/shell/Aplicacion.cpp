@@ -1,11 +1,11 @@
 #include "shell/Aplicacion.h"
 
 #include "platform/Plataforma.h"
+#include "shell/Estilo.h"
 
 #include <QFont>
 #include <QIcon>
 #include <QLibraryInfo>
-#include <QStyleFactory>
 #include <QTranslator>
 #include <new>
 
@@ -37,7 +37,7 @@ void PreparaAplicacion(QApplication& aplicacion)
     auto* traductor = new QTranslator(&aplicacion);
     if (traductor->load(FicheroTraduccionQt())) QApplication::installTranslator(traductor);
 
-    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    QApplication::setStyle(new EstiloTexalon);
     QFont letra(QStringLiteral("Arial"));
     letra.setPointSizeF(9.0);
     QApplication::setFont(letra);

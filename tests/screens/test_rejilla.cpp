@@ -305,6 +305,62 @@ private slots:
         QCOMPARE(ColorEnPantalla(rejilla, 3, 1, 0, 10), QColor(255, 255, 0));
     }
 
+    void unaCeldaQueCambiaSePintaConLoNuevo()
+    {
+        PlataformaDoble doble;
+        Ventana v;
+        v.MuestraActiva();
+        RejillaResultados& rejilla = *v.rejilla;
+        rejilla.EscribeCelda(2, 2, QStringLiteral("246.5"));
+        rejilla.EscribeCelda(4, 2, QStringLiteral("246.5"));
+        const QRect celda = rejilla.visualRect(rejilla.model()->index(2, 2));
+        const QRect gemela = rejilla.visualRect(rejilla.model()->index(4, 2));
+        QImage antes = rejilla.viewport()->grab().toImage();
+        // Two cells of the same text and colour look the same.
+        QCOMPARE(antes.copy(celda), antes.copy(gemela));
+        QCOMPARE(antes.pixelColor(celda.topLeft() + QPoint(5, 4)), QColor(255, 255, 255));
+        // A new colour and text show at once; the twin stays as it was.
+        rejilla.ColoreaCelda(2, 2, RejillaResultados::kAmarillo);
+        rejilla.EscribeCelda(2, 2, QStringLiteral("---"));
+        const QImage despues = rejilla.viewport()->grab().toImage();
+        QCOMPARE(despues.pixelColor(celda.topLeft() + QPoint(5, 4)), QColor(255, 255, 0));
+        QVERIFY(despues.copy(celda) != antes.copy(celda));
+        QCOMPARE(despues.copy(gemela), antes.copy(gemela));
+        // And back: the first picture again.
+        rejilla.ColoreaCelda(2, 2, RejillaResultados::kBlanco);
+        rejilla.EscribeCelda(2, 2, QStringLiteral("246.5"));
+        QCOMPARE(rejilla.viewport()->grab().toImage().copy(celda), antes.copy(celda));
+    }
+
+    void dimensionarConLasMismasMedidasNoMueveNada()
+    {
+        PlataformaDoble doble;
+        Ventana v;
+        v.MuestraActiva();
+        RejillaResultados& rejilla = *v.rejilla;
+        rejilla.EscribeCelda(1, 1, QStringLiteral("238.5"));
+        rejilla.CeldaActual(1, 1);
+        const QRect marco = rejilla.geometry();
+        const QRect vista = rejilla.viewport()->geometry();
+        QSignalSpy cambio(&rejilla, &QTableWidget::currentCellChanged);
+        // A new Calculate lays the same table out again: the cells are emptied, the current one
+        // goes, and neither the grid nor its cells move.
+        rejilla.Dimensiona(kFilas, kColumnas, 300, 1595, 1000);
+        QCOMPARE(rejilla.Texto(1, 1), QString());
+        QCOMPARE(rejilla.Fila(), -1);
+        QCOMPARE(cambio.count(), 1);
+        QCoreApplication::processEvents();
+        QCOMPARE(rejilla.geometry(), marco);
+        QCOMPARE(rejilla.viewport()->geometry(), vista);
+        QCOMPARE(rejilla.columnWidth(0), 67);
+        QCOMPARE(rejilla.rowHeight(5), 20);
+        // Other measures lay it out anew.
+        rejilla.Dimensiona(3, 2, 300, 1595, 1000);
+        QCOMPARE(rejilla.rowCount(), 3);
+        QCOMPARE(rejilla.columnCount(), 2);
+        QCOMPARE(rejilla.Color(0, 1), QColor(212, 208, 200));
+    }
+
     void inactivaNoTomaElFocoNiMuestraCeldaActual()
     {
         PlataformaDoble doble;

@@ -64,6 +64,14 @@ QPen BordeFino(const QColor& color)
     return pluma;
 }
 
+QRectF Linea::boundingRect() const
+{
+    // The stroke reaches half the pen's width from the line, its round caps as far at the ends;
+    // the whole width all round holds the outline Qt strokes for it in any direction.
+    const double margen = std::max(pen().widthF(), 1.0);
+    return QRectF(line().p1(), line().p2()).normalized().adjusted(-margen, -margen, margen, margen);
+}
+
 void FijaBorde(QGraphicsLineItem* linea, const QColor& color, int estilo, int grosor)
 {
     QPen pluma(color);
@@ -103,6 +111,13 @@ void Rotulo::FijaFuente(double tamano, bool negrita)
     Mide();
 }
 
+void Rotulo::Fija(const QString& texto, double tamano, bool negrita)
+{
+    texto_ = texto;
+    tamano_ = tamano;
+    negrita_ = negrita;
+    Mide();
+}
 
 void Rotulo::FijaColor(const QColor& color)
 {
@@ -121,7 +136,10 @@ void Rotulo::Mide()
     }
     const double medido = std::min(tamano_, kTamanoMaximo);
     const double escala = tamano_ / medido;
-    const QFontMetricsF metrica(FuenteA(medido, negrita_));
+    // The font and its ascent are kept for the painting, which happens far more often.
+    fuente_ = FuenteA(medido, negrita_);
+    const QFontMetricsF metrica(fuente_);
+    ascenso_ = metrica.ascent();
     medida_ = {metrica.horizontalAdvance(texto_) * escala, metrica.height() * escala};
 }
 
@@ -141,12 +159,12 @@ void Rotulo::paint(QPainter* pintor, const QStyleOptionGraphicsItem* /*opcion*/,
     // an SVG file) the font is resized so that the text keeps its size in pixels.
     const QPaintDevice* dispositivo = pintor->device();
     const double dpi = dispositivo != nullptr ? dispositivo->logicalDpiY() : DpiPantalla();
-    const double ascenso = QFontMetricsF(FuenteA(dibujado, negrita_)).ascent();
+    const double pintado = dibujado * DpiPantalla() / dpi;
     pintor->save();
     pintor->scale(escala, escala);
-    pintor->setFont(FuenteA(dibujado * DpiPantalla() / dpi, negrita_));
+    pintor->setFont(pintado == dibujado ? fuente_ : FuenteA(pintado, negrita_));
     pintor->setPen(color_);
-    pintor->drawText(QPointF(0.0, ascenso), texto_);
+    pintor->drawText(QPointF(0.0, ascenso_), texto_);
     pintor->restore();
 }
 

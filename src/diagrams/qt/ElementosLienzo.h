@@ -23,6 +23,14 @@ QColor ColorDeLista(double color);
 // A one-pixel border, as the shapes of the picture and its zoom band have whatever the zoom.
 QPen BordeFino(const QColor& color);
 
+// A line of the picture (Linea). Its pen is cosmetic, a width in pixels whatever the zoom, and
+// its bounds are the line's box grown by that width: what the scene asks of every item on every
+// painting, worked out without stroking the line's outline as a line item does.
+class Linea : public QGraphicsLineItem {
+public:
+    QRectF boundingRect() const override;
+};
+
 // The pen of a line: BorderColor, BorderStyle (0 none, 1 solid, 2 dashed, 3 dotted, 4 dash-dot,
 // 5 dash-dot-dot, 6 solid inside) and BorderWidth in pixels, whatever the zoom.
 void FijaBorde(QGraphicsLineItem* linea, const QColor& color, int estilo, int grosor);
@@ -45,6 +53,8 @@ public:
 
     void FijaTexto(const QString& texto);
     void FijaFuente(double tamano, bool negrita);
+    // Caption and font at once, measured once.
+    void Fija(const QString& texto, double tamano, bool negrita);
     void FijaColor(const QColor& color);
 
     const QString& Texto() const { return texto_; }
@@ -68,6 +78,8 @@ private:
     bool negrita_ = false;
     QColor color_ = Qt::black;
     QSizeF medida_;
+    QFont fuente_;  // at the size measured, the screen's resolution
+    double ascenso_ = 0.0;  // of that font
 };
 
 // A rounded rectangle (Sec_rect), placed as the other shapes by its Left, Top, Width and

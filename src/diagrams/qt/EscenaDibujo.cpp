@@ -68,7 +68,7 @@ QGraphicsItem* Plantilla(ClasePantalla clase)
 {
     switch (clase) {
     case ClasePantalla::Linea: {
-        auto* linea = new QGraphicsLineItem;
+        auto* linea = new Linea;
         FijaBorde(linea, Qt::black, kContinua, 1);
         return linea;
     }
@@ -108,8 +108,7 @@ void Coloca(QGraphicsItem* control, const GeneralDibujo& d, int i, const Encuadr
     case Clase::TextoIzquierda:
     case Clase::TextoDerecha: {
         auto* rotulo = static_cast<Rotulo*>(control);
-        rotulo->FijaFuente(f(campo::kTamano), f(campo::kNegrita) != 0.0);
-        rotulo->FijaTexto(QString::fromStdString(d.TEXTOS(i)));
+        rotulo->Fija(QString::fromStdString(d.TEXTOS(i)), f(campo::kTamano), f(campo::kNegrita) != 0.0);
         const QSizeF medida = rotulo->Medida();
         const EsquinaTexto esquina =
             ColocaTexto(clase, e.X(f(campo::kX1)), e.Y(f(campo::kY1)), medida.width(), medida.height());

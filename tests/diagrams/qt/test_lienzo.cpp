@@ -16,6 +16,7 @@
 #include <QGraphicsRectItem>
 #include <QGraphicsScene>
 #include <QImage>
+#include <QPainter>
 #include <QPixmap>
 #include <QSet>
 #include <QTemporaryDir>
@@ -345,6 +346,35 @@ private slots:
         lienzo_->setFocus();
         Amplia(100, 100, 110, 110);
         QCOMPARE(Uno(ClasePantalla::Linea).grosor, 3);
+    }
+
+    void LosLimitesDeUnaLineaCubrenSuTrazo()
+    {
+        // The scene repaints and finds its lines by their bounds: they hold the outline that Qt
+        // strokes for the line and its pen, for every width, style and direction, and little more.
+        EscenaDibujo escena(k400x300);
+        for (int grosor : {1, 2, 3}) {
+            NuevaLista(D());
+            AnadeLinea(D(), 0, 0, 10, 0, kNegro, kContinua, grosor);
+            AnadeLinea(D(), 0, 0, 10, 10, kRojo, kContinua, grosor);
+            AnadeLinea(D(), 3, 0, 3, 10, kAzul, kPunteada, grosor);
+            escena.DibujaLista(D(), kAnisotropico);
+            QCOMPARE(escena.items().size(), 3);
+            for (QGraphicsItem* item : escena.items()) {
+                const auto* linea = static_cast<QGraphicsLineItem*>(item);
+                QGraphicsLineItem referencia(linea->line());
+                referencia.setPen(linea->pen());
+                const QRectF trazo = referencia.boundingRect();
+                const QRectF limites = linea->boundingRect();
+                QVERIFY2(limites.adjusted(-1e-9, -1e-9, 1e-9, 1e-9).contains(trazo),
+                         qPrintable(QStringLiteral("grosor %1: %2 %3 %4 %5 frente a %6 %7 %8 %9")
+                                        .arg(grosor)
+                                        .arg(limites.left()).arg(limites.top()).arg(limites.right()).arg(limites.bottom())
+                                        .arg(trazo.left()).arg(trazo.top()).arg(trazo.right()).arg(trazo.bottom())));
+                QVERIFY(limites.width() <= trazo.width() + 2 * grosor);
+                QVERIFY(limites.height() <= trazo.height() + 2 * grosor);
+            }
+        }
     }
 
     void LineaPunteadaYContinua()
