@@ -1,0 +1,3 @@
+#include "diagrams/Lista.h"
+#  include "diagrams/qt/Escena.h"
+#include <vector>

@@ -1,0 +1,3 @@
+#pragma once
+#include <QGraphicsScene>
+#include "diagrams/Lista.h"

@@ -1,0 +1,3 @@
+#pragma once
+#include "diagrams/qt/Escena.h"
+#include <QGraphicsView>

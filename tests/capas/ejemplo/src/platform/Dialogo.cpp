@@ -1,0 +1,2 @@
+#include "screens/Pantalla.h"
+#include <QDialog>

@@ -1,0 +1,2 @@
+#include "reports/Informe.h"
+#include "shell/Principal.h"

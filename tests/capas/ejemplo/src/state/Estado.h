@@ -1,0 +1,5 @@
+// A state that reaches up into the engine.
+#pragma once
+#include <string>
+#include "state/Otro.h"
+#include "engine/Calculos.h"
