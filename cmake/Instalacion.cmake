@@ -47,7 +47,11 @@ install(FILES ${PROJECT_SOURCE_DIR}/packaging/texalon.xml
         DESTINATION ${CMAKE_INSTALL_DATADIR}/mime/packages)
 
 # The PNG icons are drawn from the SVG pictures during the build, by tools/iconos, into
-# <build>/iconos/hicolor; the installation copies them from there.
+# <build>/iconos/hicolor; the installation copies them from there. A build without the tools
+# installs no icons, and makes no package.
+if(NOT TEXALON_HERRAMIENTAS)
+  return()
+endif()
 add_subdirectory(${PROJECT_SOURCE_DIR}/tools/iconos ${PROJECT_BINARY_DIR}/tools/iconos)
 
 set(TEXALON_TAMANOS_ICONO 16 22 24 32 48 64 128 256)

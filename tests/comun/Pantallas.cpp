@@ -6,7 +6,7 @@
 
 #include <QComboBox>
 #include <QLineEdit>
-#include <QtTest>
+#include <QTest>
 #include <fstream>
 #include <sstream>
 

@@ -6,7 +6,7 @@
 
 #include <QAction>
 #include <QToolBar>
-#include <QtTest>
+#include <QTest>
 
 namespace texalon::prueba {
 

@@ -6,7 +6,7 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
-#include <QtTest>
+#include <QTest>
 
 namespace texalon::prueba {
 

@@ -9,7 +9,7 @@
 #include <QTemporaryDir>
 #include <QTextBrowser>
 #include <QToolButton>
-#include <QtTest>
+#include <QTest>
 
 using namespace texalon::plataforma;
 

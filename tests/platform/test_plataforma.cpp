@@ -12,7 +12,7 @@
 #include <QLabel>
 #include <QMessageBox>
 #include <QVBoxLayout>
-#include <QtTest>
+#include <QTest>
 
 using namespace texalon;
 using namespace texalon::plataforma;

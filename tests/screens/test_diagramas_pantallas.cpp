@@ -15,7 +15,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QRadioButton>
-#include <QtTest>
+#include <QTest>
 #include <cstdlib>
 
 using namespace texalon;

@@ -7,7 +7,7 @@
 
 #include <QLabel>
 #include <QPushButton>
-#include <QtTest>
+#include <QTest>
 
 using namespace texalon;
 using namespace texalon::plataforma;

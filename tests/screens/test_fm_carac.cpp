@@ -12,7 +12,7 @@
 #include <QLineEdit>
 #include <QRadioButton>
 #include <QSignalSpy>
-#include <QtTest>
+#include <QTest>
 #include <memory>
 
 using namespace texalon;

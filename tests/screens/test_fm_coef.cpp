@@ -9,7 +9,7 @@
 #include <QTextBlock>
 #include <QTextCursor>
 #include <QTextDocument>
-#include <QtTest>
+#include <QTest>
 #include <memory>
 #include <vector>
 

@@ -8,7 +8,7 @@
 #include <QScrollBar>
 #include <QSignalSpy>
 #include <QVBoxLayout>
-#include <QtTest>
+#include <QTest>
 #include <memory>
 
 using namespace texalon;

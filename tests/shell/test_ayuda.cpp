@@ -10,7 +10,7 @@
 
 #include <QMenuBar>
 #include <QToolBar>
-#include <QtTest>
+#include <QTest>
 #include <memory>
 
 using namespace texalon;

@@ -26,7 +26,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QToolBar>
-#include <QtTest>
+#include <QTest>
 #include <algorithm>
 #include <functional>
 #include <memory>

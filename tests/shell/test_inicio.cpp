@@ -12,7 +12,7 @@
 #include <QMimeData>
 #include <QTemporaryDir>
 #include <QUrl>
-#include <QtTest>
+#include <QTest>
 #include <memory>
 
 using namespace texalon;

@@ -16,7 +16,7 @@
 #include <QTimer>
 #include <QToolBar>
 #include <QToolButton>
-#include <QtTest>
+#include <QTest>
 #include <array>
 #include <memory>
 

@@ -18,7 +18,7 @@
 #include <QMdiSubWindow>
 #include <QTemporaryDir>
 #include <QToolBar>
-#include <QtTest>
+#include <QTest>
 #include <memory>
 #include <vector>
 

@@ -21,7 +21,7 @@
 #include <QSet>
 #include <QTemporaryDir>
 #include <QXmlStreamReader>
-#include <QtTest>
+#include <QTest>
 
 #include <algorithm>
 #include <cmath>
