@@ -9,6 +9,7 @@ PAQUETES=(
   fonts-liberation locales poppler-utils
   dpkg-dev desktop-file-utils shared-mime-info libxml2-utils
   ccache
+  xvfb openbox xdotool x11-utils
 )
 
 # Regional settings the tests run under: Spanish (comma) and English (period).

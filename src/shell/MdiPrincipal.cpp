@@ -367,20 +367,22 @@ void MdiPrincipal::TB_BARRA_ButtonClick(const QString& clave)
 void MdiPrincipal::DevuelveTamano()
 {
     // The window can be minimised and restored, but neither maximised nor stretched: any
-    // attempt springs back to 800 by 600, frame included.
+    // attempt springs back to 800 by 600 inside the frame, where the window stood before it.
     if (ajustando_ || isMinimized()) return;
     ajustando_ = true;
     if (windowState() & (Qt::WindowMaximized | Qt::WindowFullScreen))
         setWindowState(windowState() & ~(Qt::WindowMaximized | Qt::WindowFullScreen));
-    const QSize marco = (frameGeometry().size() - size()).expandedTo(QSize(0, 0));
-    const QSize objetivo = QSize(kAncho, kAlto) - marco;
-    if (size() != objetivo) resize(objetivo);
+    if (size() != QSize(kAncho, kAlto)) {
+        if (posicion_)
+            setGeometry(QRect(*posicion_, QSize(kAncho, kAlto)));
+        else
+            resize(kAncho, kAlto);
+    }
     ajustando_ = false;
 }
 
 void MdiPrincipal::showEvent(QShowEvent* evento)
 {
-    // The frame is known once the window is on the screen: 800 by 600 is its outer size.
     QMainWindow::showEvent(evento);
     DevuelveTamano();
     // The first showing puts the window in the middle of the screen.
@@ -421,9 +423,12 @@ void MdiPrincipal::dropEvent(QDropEvent* evento)
 
 void MdiPrincipal::moveEvent(QMoveEvent* evento)
 {
-    // A window manager tells the size of its frame when it places the window: the outer size
-    // is set again then, and the splash follows the window.
+    // Where the window's inside stands at its own size is where a spring-back puts it again
+    // (the frame may come or change in between): a
+    // maximise or a drag of the left or top border moves it before the size comes back.
     QMainWindow::moveEvent(evento);
+    const bool normal = !(windowState() & (Qt::WindowMaximized | Qt::WindowFullScreen | Qt::WindowMinimized));
+    if (!ajustando_ && normal && size() == QSize(kAncho, kAlto)) posicion_ = geometry().topLeft();
     DevuelveTamano();
     CentraPresentacion();
 }

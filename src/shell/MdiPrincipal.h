@@ -10,8 +10,10 @@
 #include <QKeySequence>
 #include <QList>
 #include <QMainWindow>
+#include <QPoint>
 #include <QPointer>
 #include <functional>
+#include <optional>
 
 class QMdiArea;
 class QMdiSubWindow;
@@ -139,6 +141,8 @@ private:
     bool cargada_ = false;
     bool ajustando_ = false;
     bool centrada_ = false;
+    // The place of the window's inside at its own size, kept for the spring-back.
+    std::optional<QPoint> posicion_;
 };
 
 }  // namespace texalon

@@ -382,20 +382,25 @@ private slots:
     {
         MdiPrincipal& w = Arranca();
         w.show();
-        QCOMPARE(w.frameGeometry().size(), QSize(800, 600));
+        QCOMPARE(w.size(), QSize(800, 600));
+        const QPoint donde = w.geometry().topLeft();
         w.resize(1000, 700);
-        QCOMPARE(w.frameGeometry().size(), QSize(800, 600));
+        QCOMPARE(w.size(), QSize(800, 600));
         w.resize(640, 480);
-        QCOMPARE(w.frameGeometry().size(), QSize(800, 600));
+        QCOMPARE(w.size(), QSize(800, 600));
+        // The left border dragged: the window stays where it stood.
+        w.setGeometry(QRect(donde - QPoint(150, 0), QSize(950, 600)));
+        QCOMPARE(w.geometry(), QRect(donde, QSize(800, 600)));
     }
 
     void maximizarVuelveAlTamanoNormal()
     {
         MdiPrincipal& w = Arranca();
         w.show();
+        const QPoint donde = w.geometry().topLeft();
         w.showMaximized();
         QTRY_VERIFY(!w.isMaximized());
-        QCOMPARE(w.frameGeometry().size(), QSize(800, 600));
+        QCOMPARE(w.geometry(), QRect(donde, QSize(800, 600)));
     }
 
     void minimizarDejaLaVentanaMinimizada()
