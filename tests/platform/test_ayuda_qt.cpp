@@ -135,6 +135,54 @@ private slots:
         QTRY_VERIFY(primera.isNull());
     }
 
+    void escapeCierraLaVentanaDeAyuda()
+    {
+        AyudaQt ayuda;
+        ayuda.MuestraTema(kAyuda, 33);
+        QPointer<VentanaAyuda> ventana = ayuda.Ventana();
+        QVERIFY(ventana != nullptr);
+        QVERIFY(QTest::qWaitForWindowExposed(ventana.data()));
+        ventana->activateWindow();
+        ventana->Visor()->setFocus();
+        QTest::keyClick(ventana->Visor(), Qt::Key_Escape);
+        QTRY_VERIFY(ventana.isNull());
+    }
+
+    // The main window of 800 x 600 inside a frame of 1, 20, 1 and 5 pixels, in the middle of a
+    // screen of 1280 x 1024: the help of 720 x 560 goes over it, a title bar in, wholly on the screen.
+    void enUnaPantallaDe1280Por1024LaAyudaQuedaDentroSobreLaPrincipal()
+    {
+        const QRect pantalla(0, 0, 1280, 1024);
+        const QMargins marco(1, 20, 1, 5);
+        const QRect principal(239, 192, 802, 625);
+        const QRect lugar = LugarDeLaAyuda(pantalla, principal, QSize(720, 560), marco);
+        QCOMPARE(lugar, QRect(260, 232, 720, 560));
+        QVERIFY(pantalla.contains(lugar.marginsAdded(marco)));
+    }
+
+    void conSitioAlLadoLaAyudaVaALaDerechaYSiNoALaIzquierda()
+    {
+        const QMargins marco(1, 20, 1, 5);
+        const QRect pantalla(0, 0, 1920, 1080);
+        QCOMPARE(LugarDeLaAyuda(pantalla, QRect(100, 50, 802, 625), QSize(720, 560), marco), QRect(903, 70, 720, 560));
+        QCOMPARE(LugarDeLaAyuda(pantalla, QRect(1100, 50, 802, 625), QSize(720, 560), marco), QRect(379, 70, 720, 560));
+    }
+
+    void laAyudaNoSaleDeLaZonaLibreNiPorAbajo()
+    {
+        // A panel takes the top 30 pixels; the main window sits so low that its bottom is off the screen.
+        const QMargins marco(1, 20, 1, 5);
+        const QRect libre(0, 30, 1280, 994);
+        const QRect lugar = LugarDeLaAyuda(libre, QRect(239, 420, 802, 625), QSize(720, 560), marco);
+        QVERIFY(libre.contains(lugar.marginsAdded(marco)));
+        QCOMPARE(lugar.bottom() + marco.bottom(), libre.bottom());
+        // A screen smaller than the window: the window is made smaller and fills it.
+        const QRect pequena(0, 0, 640, 480);
+        QCOMPARE(LugarDeLaAyuda(pequena, QRect(), QSize(720, 560), marco), QRect(1, 20, 638, 455));
+        // No main window: centred.
+        QCOMPARE(LugarDeLaAyuda(QRect(0, 0, 1280, 1024), QRect(), QSize(720, 560), marco), QRect(280, 239, 720, 560));
+    }
+
     void instaladoLosDatosEstanEnShareTexalon()
     {
         QTemporaryDir raiz;

@@ -162,6 +162,24 @@ QPointer<VentanaAyuda>& VentanaDeAyuda()
     return ventana;
 }
 
+// The help window's first place: beside or over the window that asked for it, wholly on the
+// free area of that window's screen.
+void ColocaAyuda(VentanaAyuda& ventana)
+{
+    const QWidget* principal = QApplication::activeWindow();
+    QScreen* pantalla = principal != nullptr ? principal->screen() : QGuiApplication::primaryScreen();
+    if (pantalla == nullptr) return;
+    QRect exterior;
+    QMargins marco;
+    if (principal != nullptr) {
+        exterior = principal->frameGeometry();
+        const QRect interior = principal->geometry();
+        marco = QMargins(interior.left() - exterior.left(), interior.top() - exterior.top(),
+                         exterior.right() - interior.right(), exterior.bottom() - interior.bottom());
+    }
+    ventana.setGeometry(LugarDeLaAyuda(pantalla->availableGeometry(), exterior, ventana.size(), marco));
+}
+
 }  // namespace
 
 void AyudaQt::MuestraTema(const QString& ficheroAyuda, int contexto) { Muestra(ficheroAyuda, contexto); }
@@ -179,6 +197,7 @@ void AyudaQt::Muestra(const QString& ficheroAyuda, int contexto)
         ventana = new VentanaAyuda;
         ventana->setAttribute(Qt::WA_DeleteOnClose);
         ventana->setAttribute(Qt::WA_QuitOnClose, false);
+        ColocaAyuda(*ventana);
     }
     ventana->Muestra(ficheroAyuda, contexto);
     ventana->show();

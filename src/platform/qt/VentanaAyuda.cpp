@@ -5,6 +5,7 @@
 #include <QFileInfo>
 #include <QHBoxLayout>
 #include <QRegularExpression>
+#include <QShortcut>
 #include <QTextBrowser>
 #include <QTextStream>
 #include <QToolButton>
@@ -25,6 +26,26 @@ QMap<int, QString> LeeMapaAyuda(const QString& ficheroAyuda)
         if (partes.hasMatch()) mapa.insert(partes.captured(1).toInt(), partes.captured(2));
     }
     return mapa;
+}
+
+QRect LugarDeLaAyuda(const QRect& disponible, const QRect& principal, QSize tamano, const QMargins& marco)
+{
+    const QRect libre = disponible.marginsRemoved(marco);
+    tamano = tamano.boundedTo(libre.size());
+    const QSize exterior = tamano.grownBy(marco);
+    QPoint esquina;  // of the frame
+    if (principal.isEmpty())
+        esquina = disponible.center() - QRect(QPoint(), exterior).center();
+    else if (principal.right() + exterior.width() <= disponible.right())
+        esquina = QPoint(principal.right() + 1, principal.top());
+    else if (principal.left() - exterior.width() >= disponible.left())
+        esquina = QPoint(principal.left() - exterior.width(), principal.top());
+    else  // over it, a title bar's height in, so that the main window's title stays in sight
+        esquina = principal.topLeft() + QPoint(marco.top(), marco.top());
+    // Moved in, so that no edge lies off the free area.
+    esquina.setX(qBound(disponible.left(), esquina.x(), disponible.right() + 1 - exterior.width()));
+    esquina.setY(qBound(disponible.top(), esquina.y(), disponible.bottom() + 1 - exterior.height()));
+    return QRect(esquina + QPoint(marco.left(), marco.top()), tamano);
 }
 
 namespace {
@@ -68,6 +89,9 @@ VentanaAyuda::VentanaAyuda(QWidget* padre) : QWidget(padre, Qt::Window)
     disposicion->addLayout(botones);
     disposicion->addWidget(visor_);
 
+    // Escape closes the help, as it closes the program's dialogs.
+    auto* cierra = new QShortcut(QKeySequence(Qt::Key_Escape), this);
+    connect(cierra, &QShortcut::activated, this, &QWidget::close);
     connect(contenido_, &QToolButton::clicked, this, [this] { Muestra(ficheroAyuda_, 0); });
     connect(atras_, &QToolButton::clicked, visor_, &QTextBrowser::backward);
     connect(adelante_, &QToolButton::clicked, visor_, &QTextBrowser::forward);

@@ -4,6 +4,9 @@
 #pragma once
 
 #include <QMap>
+#include <QMargins>
+#include <QRect>
+#include <QSize>
 #include <QString>
 #include <QWidget>
 
@@ -15,6 +18,13 @@ namespace texalon::plataforma {
 // The map of a help folder: context number to page. Lines that do not read as "NUMBER PAGE"
 // are skipped. An unreadable map is an empty one.
 QMap<int, QString> LeeMapaAyuda(const QString& ficheroAyuda);
+
+// Where the help window's inside goes, of the size wanted, on a screen whose free area (without
+// panels and docks) is `disponible`, with a frame of `marco` around it: to the right of the main
+// window's frame `principal` if it fits there, else to its left, else over it, moved in so that
+// the whole window, frame included, lies on the free area; a window larger than that area is made
+// smaller. With no main window (an empty `principal`) it is centred on the free area.
+QRect LugarDeLaAyuda(const QRect& disponible, const QRect& principal, QSize tamano, const QMargins& marco);
 
 // The contents page of a help folder.
 inline constexpr const char* kPaginaContenido = "contenido.html";
