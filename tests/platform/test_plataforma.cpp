@@ -153,6 +153,31 @@ private slots:
         QCOMPARE(parada->standardButtons(), QMessageBox::Ok);
     }
 
+    // A message box sizes itself again as it comes up: shown, it still has room for its caption,
+    // as the dialogs have.
+    void cadaDialogoMostradoCabeSuTitulo()
+    {
+        PlataformaDoble doble;
+        Estado() = General{};
+        ValoresIniciales(Estado());
+        LongitudAnclaje(Estado());
+        FmCoef coeficientes(nullptr);
+        FmAnclaje anclaje(nullptr);
+        FmAcercaDe acerca(nullptr);
+        const std::unique_ptr<QMessageBox> error6 = CajaDeMensaje(QStringLiteral("Error 6"), Estilo::Parada, nullptr);
+        const std::unique_ptr<QMessageBox> pregunta =
+            CajaDeMensaje(QStringLiteral("¿Desea salir?"), Estilo::PreguntaSiNo, nullptr);
+        for (QDialog* dialogo :
+             std::initializer_list<QDialog*>{&coeficientes, &anclaje, &acerca, error6.get(), pregunta.get()}) {
+            const QString nombre = dialogo->windowTitle() + QLatin1Char(' ') + QString::number(dialogo->width());
+            dialogo->show();
+            QVERIFY(QTest::qWaitForWindowExposed(dialogo));
+            QVERIFY2(dialogo->width() >= AnchoParaTitulo(*dialogo), qPrintable(nombre));
+            QCOMPARE(dialogo->minimumSize(), dialogo->maximumSize());
+            dialogo->close();
+        }
+    }
+
     void elAnchoDelTituloCreceConElTitulo()
     {
         QDialog corto;

@@ -16,9 +16,11 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QGridLayout>
 #include <QLocale>
 #include <QMessageBox>
 #include <QScreen>
+#include <QSpacerItem>
 #include <cstdio>
 #include <cstdlib>
 
@@ -106,6 +108,14 @@ std::unique_ptr<QMessageBox> CajaDeMensaje(const QString& texto, Estilo estilo, 
         caja->setDefaultButton(QMessageBox::Yes);
     } else {
         caja->setStandardButtons(QMessageBox::Ok);
+    }
+    // A message box works out its size again as it comes up, from its layout alone: a row as
+    // wide as the caption keeps the room for it there.
+    if (auto* rejilla = qobject_cast<QGridLayout*>(caja->layout())) {
+        const QMargins margenes = rejilla->contentsMargins();
+        const int ancho = AnchoParaTitulo(*caja) - margenes.left() - margenes.right();
+        rejilla->addItem(new QSpacerItem(ancho, 0, QSizePolicy::Minimum, QSizePolicy::Fixed), rejilla->rowCount(), 0,
+                         1, rejilla->columnCount());
     }
     PreparaDialogo(*caja);
     return caja;
