@@ -733,6 +733,36 @@ private slots:
         QVERIFY2(diferencia.isEmpty(), qPrintable(diferencia));
     }
 
+    // The chart of a calculated flexure stays in the state as its list when the confinement
+    // screen opens: a right click on the new, empty picture fits only what that picture has,
+    // which is nothing.
+    void unClicDerechoEnElDibujoVacioDeLaPantallaSiguienteNoDibujaNada()
+    {
+        Arranca();
+        FlexionCalculada(false, "250");
+        QVERIFY(!qobject_cast<Lienzo*>(C("PIC_FLEXION"))->scene()->items().isEmpty());
+        QVERIFY(EstadoDibujo().NLISTA > 0);
+        doble_->mensajes.respuestas = {Respuesta::No};
+        QVERIFY(Orden("mnuCalcularConfina"));
+        auto* lienzo = qobject_cast<Lienzo*>(C("PIC_CONFINA"));
+        QVERIFY(lienzo->scene()->items().isEmpty());
+        QTest::mouseClick(lienzo->viewport(), Qt::RightButton, {}, QPoint(120, 80));
+        QVERIFY(lienzo->scene()->items().isEmpty());
+        const GeneralDibujo& d = EstadoDibujo();
+        QCOMPARE(d.NLINEA + d.NTIT + d.NBARRA + d.NPUNTO + d.NSECRECT + d.NSECCIR, Entero{0});
+        // Its own diagram, once calculated, zoomed and fitted again by a right click as ever.
+        prueba::Pulsa(C("CM_CALCULAR"));
+        const int elementos = static_cast<int>(lienzo->scene()->items().size());
+        QVERIFY(elementos > 0);
+        QTest::mouseClick(lienzo->viewport(), Qt::LeftButton, {}, QPoint(100, 60));
+        QTest::mouseMove(lienzo->viewport(), QPoint(150, 90));
+        QTest::mouseClick(lienzo->viewport(), Qt::LeftButton, {}, QPoint(150, 90));
+        QTest::mouseClick(lienzo->viewport(), Qt::RightButton, {}, QPoint(120, 80));
+        QCOMPARE(static_cast<int>(lienzo->scene()->items().size()), elementos);
+        const QString diferencia = prueba::DiferenciaConLaLista(*lienzo, d, 0);
+        QVERIFY2(diferencia.isEmpty(), qPrintable(diferencia));
+    }
+
     // A report with the verdict in place of the results builds no diagram: the picture keeps
     // what it showed, zoom and all.
     void conElVeredictoElDibujoSeQuedaComoEstaba()

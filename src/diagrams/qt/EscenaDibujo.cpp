@@ -216,6 +216,13 @@ QGraphicsItem* EscenaDibujo::Control(ClasePantalla clase, int numero)
     return arreglo[static_cast<std::size_t>(numero - 1)];
 }
 
+QGraphicsItem* EscenaDibujo::Existente(ClasePantalla clase, int numero) const
+{
+    const std::vector<QGraphicsItem*>& arreglo = controles_[Indice(clase)];
+    if (numero < 1 || numero > static_cast<int>(arreglo.size())) return nullptr;
+    return arreglo[static_cast<std::size_t>(numero - 1)];
+}
+
 void EscenaDibujo::DestruyeTodos()
 {
     for (ClasePantalla clase : kClasesPantalla) {
@@ -241,15 +248,18 @@ void EscenaDibujo::EscondeLineas(const ContadoresDibujo& contadores)
 
 // ---- The renderers
 
-void EscenaDibujo::Numera(const GeneralDibujo& d, const Encuadre& e, ContadoresDibujo& contadores)
+void EscenaDibujo::Numera(const GeneralDibujo& d, const Encuadre& e, ContadoresDibujo& contadores,
+                          Faltantes faltantes)
 {
     BorraDibujo(contadores);
     for (int i = 1; i <= d.NLISTA; ++i) {
         const std::optional<ClasePantalla> clase = ClaseEnPantalla(ClaseElemento(d, i));
         if (!clase) continue;
         Entero& contador = Contador(contadores, *clase);
+        QGraphicsItem* control = faltantes == Faltantes::SeCrean ? Control(*clase, contador + 1)
+                                                                 : Existente(*clase, contador + 1);
+        if (control == nullptr) continue;
         ++contador;
-        QGraphicsItem* control = Control(*clase, contador);
         Coloca(control, d, i, e);
         control->setZValue(-i);  // of two overlapping elements, the earlier one in front
         control->show();
@@ -261,7 +271,7 @@ void EscenaDibujo::Muestra(const GeneralDibujo& d, const Encuadre& e, Contadores
     // Every element of the scene goes, even one that the counters no longer name (a screen
     // that closes sets them to 0), so that nothing of an earlier diagram stays on show.
     DestruyeTodos();
-    Numera(d, e, contadores);
+    Numera(d, e, contadores, Faltantes::SeCrean);
 }
 
 void EscenaDibujo::DibujaLista(GeneralDibujo& d, Entero isotropico)
@@ -273,9 +283,9 @@ void EscenaDibujo::RedibujaLista(GeneralDibujo& d, Entero isotropico)
 {
     EscondeLineas(d);
     const Encuadre e = AjustaGuardado(d, isotropico);
-    // The elements that the list numbers and that do not exist (a picture that has shown no
-    // list yet) are created, so that the counters never name more than exist.
-    Numera(d, e, d);
+    // Nothing is created: a picture that has shown no list (while the state keeps the list of
+    // another screen's picture) stays empty, and the counters name only what exists.
+    Numera(d, e, d, Faltantes::SeOmiten);
 }
 
 void EscenaDibujo::AmpliaVentana(GeneralDibujo& d)

@@ -82,15 +82,19 @@ private:
     // Element `numero` of a control array, created from the template when it does not exist
     // yet; numbers follow one another from 1.
     QGraphicsItem* Control(ClasePantalla clase, int numero);
+    // Element `numero` of a control array, or none when it does not exist.
+    QGraphicsItem* Existente(ClasePantalla clase, int numero) const;
     QGraphicsItem* Crea(ClasePantalla clase);
     void DestruyeTodos();
     // How many of the elements of a kind the counter names and exist.
     int Cuantos(const ContadoresDibujo& contadores, ClasePantalla clase) const;
     void EscondeLineas(const ContadoresDibujo& contadores);
 
+    // Whether the numbering makes the elements that the list names and that do not exist.
+    enum class Faltantes { SeCrean, SeOmiten };
     // Numbers the elements after the list, as the counters rise, and sets on each the
-    // properties of its list element with the fit `e`.
-    void Numera(const GeneralDibujo& d, const Encuadre& e, ContadoresDibujo& contadores);
+    // properties of its list element with the fit `e`. An element left out is not counted.
+    void Numera(const GeneralDibujo& d, const Encuadre& e, ContadoresDibujo& contadores, Faltantes faltantes);
 
     TamanoDibujo tamano_;
     // The control arrays: element n of a kind at position n - 1. The scene owns the items.

@@ -668,28 +668,42 @@ private slots:
         CERCA(D().ESCALAY, 24);
     }
 
-    void RedibujaListaCreaLosQueFaltan()
+    void RedibujaListaEnUnDibujoSinElementosNoCreaNada()
     {
-        // A picture that has shown no list, with the size of the last one in store.
+        // A picture that has shown no list, with a list and its size in store.
         Lienzo& lienzo = Abre(kPicFlexion, k400x300);
         ListaDeZoom(D());
         D().ANCHOPIC = 400;
         D().ALTOPIC = 300;
         lienzo.Escena().RedibujaLista(D(), 0);
-        ListaDeZoomSinAmpliar();
-        QCOMPARE(D().NLINEA, Entero{1});
-        QCOMPARE(D().NSECCIR, Entero{1});
-        // The list grew without being drawn: the new elements are made, the counters follow.
+        QVERIFY(lienzo.scene()->items().isEmpty());
+        QCOMPARE(D().NLINEA, Entero{0});
+        QCOMPARE(D().NTIT, Entero{0});
+        QCOMPARE(D().NBARRA, Entero{0});
+        QCOMPARE(D().NPUNTO, Entero{0});
+        QCOMPARE(D().NSECRECT, Entero{0});
+        QCOMPARE(D().NSECCIR, Entero{0});
+    }
+
+    void RedibujaListaMasLargaQueLoDibujadoSoloAjustaLoQueExiste()
+    {
+        Lienzo& lienzo = Abre(kPicFlexion, k400x300);
+        ListaDeZoom(D());
+        lienzo.Escena().DibujaLista(D(), 0);
+        const QList<QGraphicsItem*> antes = lienzo.scene()->items();
+        // The list grew without being drawn: the redraw fits the elements there are, and the
+        // counters name only those.
         Eje(D(), 0, 0, 10, 10);
         Eje(D(), 0, 5, 10, 5);
         lienzo.Escena().RedibujaLista(D(), 0);
-        QCOMPARE(D().NLINEA, Entero{3});
+        const QList<QGraphicsItem*> despues = lienzo.scene()->items();
+        QCOMPARE(QSet<QGraphicsItem*>(despues.begin(), despues.end()),
+                 QSet<QGraphicsItem*>(antes.begin(), antes.end()));
+        QCOMPARE(D().NLINEA, Entero{1});
+        QCOMPARE(D().NSECCIR, Entero{1});
         const std::vector<ElementoPantalla> lineas = De(ClasePantalla::Linea);
-        QCOMPARE(lineas.size(), std::size_t{3});
-        for (const ElementoPantalla& linea : lineas)
-            QVERIFY(linea.visible);
-        CERCA(lineas[2].y1, 150);
-        QCOMPARE(lienzo.scene()->items().size(), 8);
+        QCOMPARE(lineas.size(), std::size_t{1});
+        QVERIFY(lineas[0].visible);
     }
 
     void ContadoresQueNombranDeMasNoRompenNada()
