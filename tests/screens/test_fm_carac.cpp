@@ -1,5 +1,6 @@
 #include "comun/Pantallas.h"
 #include "comun/Usuario.h"
+#include "diagrams/qt/Lienzo.h"
 #include "platform/dobles/PlataformaDoble.h"
 #include "screens/FmCarac.h"
 #include "screens/RejillaResultados.h"
@@ -14,6 +15,7 @@
 #include <QSignalSpy>
 #include <QTest>
 #include <memory>
+#include <vector>
 
 using namespace texalon;
 using namespace texalon::plataforma;
@@ -47,6 +49,15 @@ class PruebaCarac : public prueba::PruebaDePantalla {
         for (int columna = 0; columna < 4; ++columna)
             textos << Rejilla()->Texto(fila, columna);
         return textos;
+    }
+
+    // Where the design points of the picture stand.
+    static std::vector<QRectF> Puntos(const Lienzo& dibujo)
+    {
+        std::vector<QRectF> puntos;
+        for (const ElementoPantalla& e : dibujo.Escena().Elementos(ClasePantalla::Punto))
+            puntos.emplace_back(e.izquierda, e.arriba, e.ancho, e.alto);
+        return puntos;
     }
 
 private slots:
@@ -137,12 +148,28 @@ private slots:
     {
         Abre();
         QCOMPARE(Fila(1)[2], QStringLiteral("9,64"));
+        auto* dibujo = qobject_cast<Lienzo*>(C("PIC_CARAC"));
+        const std::vector<QRectF> conGr14 = Puntos(*dibujo);
+        // A zoom, so that the picture drawn again shows.
+        QTest::mouseClick(dibujo->viewport(), Qt::LeftButton, {}, QPoint(100, 60));
+        QTest::mouseMove(dibujo->viewport(), QPoint(150, 90));
+        QTest::mouseClick(dibujo->viewport(), Qt::LeftButton, {}, QPoint(150, 90));
+        QVERIFY(Puntos(*dibujo) != conGr14);
         // The steps read GR again: a change since the load shows in the repeated table.
         Estado().GR = 1.0;
         prueba::Pulsa(Opcion("OP_TL"));
         QVERIFY(Opcion("OP_TL")->isChecked());
         QCOMPARE(Fila(1)[2], QStringLiteral("13,50"));
         QCOMPARE(Fila(1)[1], QStringLiteral("0,900"));
+        // And the picture: the stress-strain diagram of type L drawn anew, fitted, with the
+        // design points of GR 1, as a screen opened with GR 1 shows it.
+        const QString diferencia = prueba::DiferenciaConLaLista(*dibujo, EstadoDibujo(), 0);
+        QVERIFY2(diferencia.isEmpty(), qPrintable(diferencia));
+        const std::vector<QRectF> repetidos = Puntos(*dibujo);
+        QVERIFY(!repetidos.empty());
+        QVERIFY(repetidos != conGr14);
+        Abre(',', 1.0);
+        QCOMPARE(Puntos(*qobject_cast<Lienzo*>(C("PIC_CARAC"))), repetidos);
     }
 
     void elCoeficienteDelEstadoActuaSobreLaTabla()

@@ -566,7 +566,8 @@ private slots:
 
     void ladoMenorMayorQueElLadoSeRechaza()
     {
-        AbreRectangular(0.5, 0.4);
+        // From a side other than the start value, so that the fall back to 0.4 shows.
+        AbreRectangular(0.5, 0.45);
         Escribe("TX_LADOMENOR", QStringLiteral("0,51"));
         QCOMPARE(Mensajes(), QStringList{kLadoMenor});
         QCOMPARE(Estado().LADOMENOR, 0.4);
@@ -575,19 +576,22 @@ private slots:
 
     void ladoMenorConRelacionDeUnoYMedioSeRechaza()
     {
-        AbreRectangular(0.6, 0.5);
-        Escribe("TX_LADOMENOR", QStringLiteral("0,4"));
+        // 0.75 / 0.5 is exactly 1.5; the side typed and the one before both differ from the
+        // start value 0.4 that the refusal puts back.
+        AbreRectangular(0.75, 0.55);
+        Escribe("TX_LADOMENOR", QStringLiteral("0,5"));
         QCOMPARE(Mensajes(), QStringList{kRelacion});
         QCOMPARE(Estado().LADOMENOR, 0.4);
         doble_->mensajes.mostrados.clear();
-        Escribe("TX_LADOMENOR", QStringLiteral("0,401"));
+        Escribe("TX_LADOMENOR", QStringLiteral("0,501"));
         QVERIFY(Mensajes().isEmpty());
-        QCOMPARE(Estado().LADOMENOR, 0.401);
+        QCOMPARE(Estado().LADOMENOR, 0.501);
     }
 
     void diametroCeroSeisConLadoMenorCeroCuatroEnRectangularVuelveACeroCinco()
     {
-        AbreRectangular(0.5, 0.4);
+        // From a side other than the start value, so that the fall back to 0.5 shows.
+        AbreRectangular(0.55, 0.4);
         Escribe("TX_DIAM", QStringLiteral("0,6"));
         QCOMPARE(Mensajes(), QStringList{kRelacion});
         QCOMPARE(Estado().DIAM, 0.5);

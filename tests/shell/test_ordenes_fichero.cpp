@@ -5,11 +5,14 @@
 #include "platform/dobles/PlataformaDoble.h"
 #include "screens/Entrada.h"
 #include "screens/Formulario.h"
+#include "screens/RejillaResultados.h"
 #include "shell/Aplicacion.h"
 #include "shell/MdiPrincipal.h"
 #include "state/General.h"
 
+#include <QAbstractButton>
 #include <QComboBox>
+#include <QDialog>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -1099,6 +1102,37 @@ private slots:
         QVERIFY(Orden("mnuCalcularCarac"));
         QCOMPARE(NombreAbierta(), QStringLiteral("FM_CARAC"));
         QCOMPARE(EstadoDeLasOrdenes(), QList<bool>({false, false, true, false, true}));
+    }
+
+    // GR typed in the coefficients of a flexure screen stays in the project state: the
+    // characteristics screen, opened next from the menu, works its table out with it.
+    void elGrDeLosCoeficientesLlegaALaTablaDeCaracteristicas()
+    {
+        Arranca();
+        QVERIFY(Orden("mnuCalcularFlexion"));
+        bool aceptado = false;
+        doble_->ventanas.alMostrar = [&](QDialog& dialogo) {
+            auto* campo = dialogo.findChild<QLineEdit*>(QStringLiteral("TX_GR"));
+            if (!prueba::Enfoca(campo)) return;
+            prueba::Teclea(campo, Sep("1"));
+            QTest::keyClick(campo, Qt::Key_Tab);
+            prueba::Pulsa(dialogo.findChild<QAbstractButton*>(QStringLiteral("CM_ACEPTAR")));
+            aceptado = dialogo.result() == QDialog::Accepted;
+        };
+        prueba::Pulsa(Abierta()->Control(QStringLiteral("CM_GAMMA1")));
+        doble_->ventanas.alMostrar = nullptr;
+        QVERIFY(aceptado);
+        QCOMPARE(Estado().GR, 1.0);
+        doble_->mensajes.respuestas = {Respuesta::No};
+        QVERIFY(Orden("mnuCalcularCarac"));
+        QCOMPARE(NombreAbierta(), QStringLiteral("FM_CARAC"));
+        auto* tabla = qobject_cast<RejillaResultados*>(Abierta()->Control(QStringLiteral("FG_EPSD")));
+        QVERIFY(tabla != nullptr);
+        // Type L, one layer: EPSD = 0.015 × 0.900 / 1, and FR = 230000 × EPSD.
+        QStringList fila;
+        for (int columna = 0; columna < 4; ++columna)
+            fila << tabla->Texto(1, columna);
+        QCOMPARE(fila, QStringList({"1", Sep("0,900"), Sep("13,50"), Sep("3105,0")}));
     }
 
     void guardarEnCaracteristicasNoHaceNada()
