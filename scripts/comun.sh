@@ -6,7 +6,7 @@ PAQUETES=(
   g++ cmake make pkgconf
   qt6-base-dev qt6-base-dev-tools qt6-svg-dev libqt6svg6 qt6-translations-l10n libgl-dev
   libgtest-dev googletest libbenchmark-dev
-  fonts-liberation locales poppler-utils
+  fonts-liberation locales poppler-utils python3
   dpkg-dev desktop-file-utils shared-mime-info libxml2-utils
   ccache
   xvfb openbox xdotool x11-utils

@@ -3,10 +3,13 @@
 #include "calculo/Diagrama.h"
 #include "calculo/Informe.h"
 #include "calculo/Proyecto.h"
+#include "calculo/SalidaCsv.h"
 #include "calculo/SalidaJson.h"
 #include "calculo/SalidaTexto.h"
 #include "calculo/Texto.h"
 
+#include <algorithm>
+#include <array>
 #include <charconv>
 #include <filesystem>
 #include <optional>
@@ -23,6 +26,7 @@ constexpr std::string_view kPrograma = "texalon-calculo";
 // What the command line asks for.
 struct Orden {
     bool json = false;
+    bool csv = false;
     bool ayuda = false;
     std::optional<Diagrama> diagrama;
     int tipo = 1;
@@ -30,8 +34,22 @@ struct Orden {
     std::optional<std::string> carpetaSvg;
     std::optional<std::string> carpetaInforme;
     std::vector<std::string> ficheros;
+    std::vector<std::string> opciones;  // the options given, in their order, without values
     std::string error;  // the usage error, if any
 };
+
+// The CSV table is one table of every cell of every file: it takes no option that chooses a
+// cell, a diagram or another output.
+constexpr std::array<std::string_view, 6> kOpcionesSinCsv = {"--json",    "--diagrama", "--svg",
+                                                             "--informe", "--tipo",     "--capas"};
+
+// The first option given that --csv does not combine with, if any.
+std::optional<std::string> OpcionContraCsv(const Orden& orden)
+{
+    for (const std::string& opcion : orden.opciones)
+        if (std::find(kOpcionesSinCsv.begin(), kOpcionesSinCsv.end(), opcion) != kOpcionesSinCsv.end()) return opcion;
+    return std::nullopt;
+}
 
 // A lone "-" is a name: no option is that short.
 bool EsOpcion(const std::string& argumento) { return argumento.size() > 1 && argumento.front() == '-'; }
@@ -94,9 +112,13 @@ Orden Interpreta(const std::vector<std::string>& argumentos)
             soloNombres = true;
         } else if (argumento == "--json") {
             orden.json = true;
+            orden.opciones.push_back(argumento);
+        } else if (argumento == "--csv") {
+            orden.csv = true;
         } else if (argumento == "--help" || argumento == "-h") {
             orden.ayuda = true;
         } else if (LlevaValor(argumento)) {
+            orden.opciones.push_back(argumento);
             orden.error = i + 1 < argumentos.size() ? TomaValor(orden, argumento, argumentos[++i])
                                                     : "falta el valor de la opción «" + argumento + "».";
             if (!orden.error.empty()) return orden;
@@ -106,8 +128,11 @@ Orden Interpreta(const std::vector<std::string>& argumentos)
         }
     }
     if (orden.ayuda) return orden;
+    const std::optional<std::string> contraCsv = orden.csv ? OpcionContraCsv(orden) : std::nullopt;
     if (orden.ficheros.empty())
         orden.error = "falta el nombre de algún fichero.";
+    else if (contraCsv)
+        orden.error = "la opción «--csv» no se puede combinar con «" + *contraCsv + "».";
     else if (orden.carpetaSvg && !orden.diagrama)
         orden.error = "la opción «--svg» necesita «--diagrama NOMBRE».";
     return orden;
@@ -176,7 +201,9 @@ bool ProcesaFichero(const std::string& fichero, const Orden& orden, char separad
     GuardaInforme(calculo, orden, separador, dispositivos.pdf);
     for (const std::string& mensaje : calculo.errores)
         errores << fichero << ": " << mensaje << '\n';
-    if (orden.json) {
+    if (orden.csv) {
+        salida << FilasCsv(calculo, separador);
+    } else if (orden.json) {
         salida << ObjetoJson(calculo, lista ? &*lista : nullptr) << '\n';
     } else if (calculo.Correcto()) {
         // A blank line parts the blocks of two files.
@@ -195,6 +222,7 @@ int ProcesaFicheros(const Orden& orden, char separador, const Dispositivos& disp
 {
     bool todos = true;
     bool primerBloque = true;
+    if (orden.csv) salida << CabeceraCsv(separador);
     // A failure stops nothing: the next file goes on.
     for (const std::string& fichero : orden.ficheros)
         todos = ProcesaFichero(fichero, orden, separador, dispositivos, primerBloque, salida, errores) && todos;
@@ -206,6 +234,7 @@ int ProcesaFicheros(const Orden& orden, char separador, const Dispositivos& disp
 std::string TextoAyuda()
 {
     return "Uso: texalon-calculo [--json] FICHERO...\n"
+           "  o: texalon-calculo --csv FICHERO...\n"
            "  o: texalon-calculo [--json] --diagrama NOMBRE [--tipo N] [--capas N]\n"
            "                     [--svg CARPETA] FICHERO...\n"
            "  o: texalon-calculo --informe CARPETA [--tipo N] [--capas N] FICHERO...\n"
@@ -223,6 +252,19 @@ std::string TextoAyuda()
            "              los números con 17 cifras significativas y punto decimal, null\n"
            "              si no es finito. Si el fichero falla, el objeto lleva «error» en\n"
            "              lugar de los resultados.\n"
+           "  --csv       escribe una sola tabla para una hoja de cálculo, con una fila por\n"
+           "              fichero, tipo de refuerzo y número de capas y las columnas\n"
+           "              «fichero», «tipo» (rectangular, T o confinamiento), «refuerzo»\n"
+           "              (TEXALON L, TEXALON H o TEXALON X), «capas» (de 1 a 5),\n"
+           "              «resultado» (el texto de la celda de la tabla de resultados, como\n"
+           "              en la pantalla: «---» si no tiene), «alcanza» (sí si la celda\n"
+           "              llega al momento de cálculo o al incremento pedido, como la celda\n"
+           "              amarilla de la pantalla; no si no) y «error» (vacío). Un fichero\n"
+           "              que falla da una sola fila, con su nombre, su tipo si se sabe y\n"
+           "              sus mensajes en «error». Los campos van separados por «;» si el\n"
+           "              separador decimal del sistema es la coma y por «,» si es el punto,\n"
+           "              entre comillas si lo necesitan; UTF-8 con marca de orden de bytes\n"
+           "              y fin de línea CR LF. Solo se combina con los nombres de fichero.\n"
            "  --diagrama NOMBRE\n"
            "              tras el cálculo dibuja el diagrama NOMBRE del proyecto, el mismo que\n"
            "              dibujaría su pantalla (el de la sección en T para una sección en T):\n"
@@ -266,13 +308,13 @@ std::string TextoAyuda()
            "  -h, --help  muestra esta ayuda y termina.\n"
            "  --          lo que sigue son nombres de fichero, aunque empiecen por «-».\n"
            "\n"
-           "Sin --json se escribe, para cada fichero, la tabla de resultados con un tipo de\n"
-           "refuerzo por columna y un número de capas por fila, en los formatos de la\n"
-           "pantalla y con el separador decimal del sistema, el veredicto y los valores de\n"
-           "la sección. Los mensajes de error van a la salida de errores y el cálculo sigue\n"
-           "con el fichero siguiente. También falla un fichero cuyo cálculo se detiene por\n"
-           "una predeformación superior al 2 por mil, cuyo proyecto no tiene el diagrama\n"
-           "pedido (area en un pilar, por ejemplo), cuya celda de pivotes no tiene\n"
+           "Sin --json ni --csv se escribe, para cada fichero, la tabla de resultados con un\n"
+           "tipo de refuerzo por columna y un número de capas por fila, en los formatos de\n"
+           "la pantalla y con el separador decimal del sistema, el veredicto y los valores\n"
+           "de la sección. Los mensajes de error van a la salida de errores y el cálculo\n"
+           "sigue con el fichero siguiente. También falla un fichero cuyo cálculo se\n"
+           "detiene por una predeformación superior al 2 por mil, cuyo proyecto no tiene el\n"
+           "diagrama pedido (area en un pilar, por ejemplo), cuya celda de pivotes no tiene\n"
            "resultado («---») o cuyo SVG o informe no se puede escribir. Solo --svg e\n"
            "--informe escriben ficheros.\n"
            "\n"
@@ -280,7 +322,7 @@ std::string TextoAyuda()
            "  0  se han calculado todos los ficheros, y dibujado sus diagramas.\n"
            "  1  algún fichero no se ha podido leer, calcular, dibujar o escribir.\n"
            "  2  error de uso: ningún fichero, una opción no reconocida o sin su valor,\n"
-           "     un valor no válido, o --svg sin --diagrama.\n";
+           "     un valor no válido, --svg sin --diagrama o --csv con otra opción.\n";
 }
 
 int Ejecuta(const std::vector<std::string>& argumentos, char separador, std::ostream& salida, std::ostream& errores,

@@ -22,7 +22,8 @@ bool Lee(CalculoFichero& calculo)
     else
         LeeConfina(calculo.g, calculo.fichero, aviso);
     if (calculo.g.F_ERROR) calculo.errores.emplace_back(kMensajeDatosIncorrectos);
-    return !calculo.g.F_ERROR;
+    calculo.leido = !calculo.g.F_ERROR;
+    return calculo.leido;
 }
 
 // The screen reads no fields here: the state already holds the file's values.

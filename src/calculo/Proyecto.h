@@ -23,6 +23,7 @@ struct CalculoFichero {
     std::string fichero;  // the name as given
     ClaseFichero clase = ClaseFichero::Ninguna;
     Entero seccion = 0;  // section kind of line 1 of a flexure file, as read
+    bool leido = false;  // the whole file read and found good
     Veredicto veredicto = Veredicto::Oculto;
     // The messages of a failure, in the order the program shows them; none on success.
     std::vector<std::string> errores;

@@ -9,7 +9,6 @@
 #include <cstddef>
 #include <initializer_list>
 #include <utility>
-#include <vector>
 
 namespace texalon::calculo {
 
@@ -17,35 +16,6 @@ namespace {
 
 // Enough for the value of a double to read back the same.
 constexpr int kCifrasSignificativas = 17;
-
-// The length of the well-formed UTF-8 character at the start of the text, 0 if there is none:
-// overlong forms, surrogates and code points above U+10FFFF are not well formed.
-std::size_t CaracterUtf8(std::string_view texto)
-{
-    const auto byte = [texto](std::size_t i) { return static_cast<unsigned char>(texto[i]); };
-    const unsigned char primero = byte(0);
-    if (primero < 0x80) return 1;
-    std::size_t largo = 0;
-    unsigned char minimo = 0x80;
-    unsigned char maximo = 0xBF;
-    if (primero >= 0xC2 && primero <= 0xDF) {
-        largo = 2;
-    } else if (primero >= 0xE0 && primero <= 0xEF) {
-        largo = 3;
-        if (primero == 0xE0) minimo = 0xA0;
-        if (primero == 0xED) maximo = 0x9F;
-    } else if (primero >= 0xF0 && primero <= 0xF4) {
-        largo = 4;
-        if (primero == 0xF0) minimo = 0x90;
-        if (primero == 0xF4) maximo = 0x8F;
-    } else {
-        return 0;
-    }
-    if (texto.size() < largo || byte(1) < minimo || byte(1) > maximo) return 0;
-    for (std::size_t i = 2; i < largo; ++i)
-        if ((byte(i) & 0xC0U) != 0x80U) return 0;
-    return largo;
-}
 
 // The escape of a character below U+0020, which JSON does not allow bare in a string.
 std::string EscapeControl(char c)
@@ -124,14 +94,6 @@ public:
 private:
     std::string texto_ = "{";
 };
-
-std::string Unidos(const std::vector<std::string>& mensajes)
-{
-    std::string texto;
-    for (const std::string& mensaje : mensajes)
-        texto += (texto.empty() ? "" : "\n") + mensaje;
-    return texto;
-}
 
 void DatosFlexion(Objeto& objeto, const General& g, bool esT)
 {

@@ -2,8 +2,10 @@
 #pragma once
 
 #include <charconv>
+#include <cstddef>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace texalon::calculo {
 
@@ -22,5 +24,16 @@ inline std::string TextoEntero(int numero)
     const auto escrito = std::to_chars(cifras, cifras + sizeof cifras, numero);
     return std::string(cifras, escrito.ptr);
 }
+
+// The messages of a failure as one text, parted by line ends.
+std::string Unidos(const std::vector<std::string>& mensajes);
+
+// The length of the well-formed UTF-8 character at the start of the text, 0 if there is none:
+// overlong forms, surrogates and code points above U+10FFFF are not well formed.
+std::size_t CaracterUtf8(std::string_view texto);
+
+// The text with each byte that is no part of a well-formed UTF-8 character replaced by U+FFFD,
+// so that what the command writes as UTF-8 is UTF-8 whatever the names it was given.
+std::string Utf8Valido(std::string_view texto);
 
 }  // namespace texalon::calculo

@@ -1,0 +1,98 @@
+#include "calculo/SalidaCsv.h"
+
+#include "calculo/Texto.h"
+
+#include "engine/Caracteristicas.h"
+
+#include <array>
+#include <cstddef>
+#include <optional>
+
+namespace texalon::calculo {
+
+namespace {
+
+constexpr std::string_view kFinDeFila = "\r\n";
+constexpr std::string_view kMarcaOrden = "\xEF\xBB\xBF";  // U+FEFF in UTF-8
+
+// The columns, in their order.
+enum Columna : std::size_t { kFichero, kTipo, kRefuerzo, kCapas, kResultado, kAlcanza, kError, kColumnas };
+using Fila = std::array<std::string, kColumnas>;
+
+constexpr std::array<std::string_view, kColumnas> kCabecera = {"fichero",   "tipo",    "refuerzo", "capas",
+                                                               "resultado", "alcanza", "error"};
+
+template <typename Campos>
+std::string Linea(const Campos& campos, char separadorCampos)
+{
+    std::string linea;
+    for (std::size_t i = 0; i < campos.size(); ++i) {
+        if (i > 0) linea += separadorCampos;
+        linea += CampoCsv(campos[i], separadorCampos);
+    }
+    return linea.append(kFinDeFila);
+}
+
+// The cell (type, layers) of the file's grid, the same as its screen builds it.
+CeldaResultado Celda(const CalculoFichero& calculo, int tipo, int capas, char separadorDecimal)
+{
+    if (calculo.clase == ClaseFichero::Flexion) return CeldaFlexion(calculo.g, tipo, capas, separadorDecimal);
+    return CeldaConfina(calculo.g, tipo, capas, separadorDecimal);
+}
+
+// The kind of the file as far as it is known: the extension tells a confinement file, but a
+// flexure file tells rectangular or T only once it has been read whole.
+std::optional<std::string_view> Tipo(const CalculoFichero& calculo)
+{
+    if (calculo.clase == ClaseFichero::Flexion && !calculo.leido) return std::nullopt;
+    return NombreTipo(calculo);
+}
+
+}  // namespace
+
+char SeparadorCsv(char separadorDecimal) { return separadorDecimal == ',' ? ';' : ','; }
+
+std::string CampoCsv(std::string_view texto, char separadorCampos)
+{
+    const std::string valido = Utf8Valido(texto);
+    const std::string especiales = {separadorCampos, '"', '\r', '\n'};
+    if (valido.find_first_of(especiales) == std::string::npos) return valido;
+    std::string campo = "\"";
+    for (const char c : valido) {
+        if (c == '"') campo += '"';
+        campo += c;
+    }
+    return campo + '"';
+}
+
+std::string CabeceraCsv(char separadorDecimal)
+{
+    return std::string(kMarcaOrden) + Linea(kCabecera, SeparadorCsv(separadorDecimal));
+}
+
+std::string FilasCsv(const CalculoFichero& calculo, char separadorDecimal)
+{
+    const char separadorCampos = SeparadorCsv(separadorDecimal);
+    Fila fila;
+    fila[kFichero] = calculo.fichero;
+    if (const auto tipo = Tipo(calculo)) fila[kTipo] = *tipo;
+    if (!calculo.Correcto()) {
+        fila[kError] = Unidos(calculo.errores);
+        return Linea(fila, separadorCampos);
+    }
+    const General& g = calculo.g;
+    std::string filas;
+    for (int t = 1; t <= g.NTIPOS; ++t) {
+        fila[kRefuerzo] = g.TIPOS(t);
+        for (int n = 1; n <= g.MAXCAPAS; ++n) {
+            const CeldaResultado celda = Celda(calculo, t, n, separadorDecimal);
+            fila[kCapas] = TextoEntero(n);
+            fila[kResultado] = celda.texto;
+            fila[kAlcanza] = celda.cumple ? "sí" : "no";
+            filas += Linea(fila, separadorCampos);
+        }
+    }
+    return filas;
+}
+
+}  // namespace texalon::calculo

@@ -1,0 +1,33 @@
+// The results of many files as one table for a spreadsheet: one row for each file, sheet type
+// and number of layers, with the cell of the result grid as the screen shows it.
+#pragma once
+
+#include "calculo/Proyecto.h"
+
+#include <string>
+#include <string_view>
+
+namespace texalon::calculo {
+
+// The field separator that a spreadsheet expects on a machine with the decimal separator
+// given: ';' beside a decimal comma, ',' beside a decimal period.
+char SeparadorCsv(char separadorDecimal);
+
+// One field as RFC 4180 writes it: within double quotes, its own doubled, when it holds the
+// field separator, a double quote, CR or LF; as it stands otherwise. A byte that is no part of a
+// well-formed UTF-8 character becomes U+FFFD.
+std::string CampoCsv(std::string_view texto, char separadorCampos);
+
+// The start of the table: the UTF-8 byte-order mark, so that a spreadsheet reads the accents,
+// and the header row fichero, tipo, refuerzo, capas, resultado, alcanza, error.
+std::string CabeceraCsv(char separadorDecimal);
+
+// The rows of one file, each ended by CR LF. A calculated file has one row for each sheet type
+// and number of layers, in the grid's order (type 1 with 1 to MAXCAPAS layers first): the
+// type's name, the number of layers, the cell's text as the screen shows it with the decimal
+// separator given, and "sí" or "no" as the cell is yellow or not. A file that failed has one
+// row: its name, its kind when known (a flexure file's only once read whole) and its messages
+// joined by line ends.
+std::string FilasCsv(const CalculoFichero& calculo, char separadorDecimal);
+
+}  // namespace texalon::calculo
