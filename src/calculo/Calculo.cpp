@@ -155,13 +155,16 @@ void GuardaInforme(CalculoFichero& calculo, const Orden& orden, char separador, 
 {
     if (!orden.carpetaInforme || !calculo.Correcto()) return;
     const std::string destino = FicheroInforme(*orden.carpetaInforme, calculo.fichero);
-    std::error_code sinExcepcion;
-    std::filesystem::create_directories(*orden.carpetaInforme, sinExcepcion);
+    std::error_code fallo;
+    std::filesystem::create_directories(*orden.carpetaInforme, fallo);
+    if (fallo) {
+        calculo.errores.push_back("no se ha podido crear la carpeta «" + *orden.carpetaInforme + "» del informe.");
+        return;
+    }
     const auto imprime = [&](plataforma::Impresora& impresora) {
-        ImprimeInforme(calculo, impresora, orden.tipo, orden.capas, separador);
+        ImprimeInforme(calculo, impresora, orden.tipo, orden.capas, separador, destino);
     };
-    if (!pdf || !pdf(destino, imprime))
-        calculo.errores.push_back("no se ha podido escribir el informe en «" + destino + "».");
+    if (!pdf || !pdf(destino, imprime)) calculo.errores.push_back(MensajeInformeSinEscribir(destino));
 }
 
 // CARPETA/<the file's name without its extension>-<the diagram's name>.svg
@@ -173,22 +176,27 @@ std::string FicheroSvg(const std::string& carpeta, const std::string& fichero, D
 }
 
 // The folder is made when it is missing; a file that cannot be written is a failure of the file.
-void GuardaSvg(CalculoFichero& calculo, ListaDiagrama& lista, const Orden& orden, const EscritorSvg& escritorSvg)
+bool GuardaSvg(CalculoFichero& calculo, ListaDiagrama& lista, const Orden& orden, const EscritorSvg& escritorSvg)
 {
     const std::string destino = FicheroSvg(*orden.carpetaSvg, calculo.fichero, *orden.diagrama);
     std::error_code sinExcepcion;
     std::filesystem::create_directories(*orden.carpetaSvg, sinExcepcion);
-    if (!escritorSvg || !escritorSvg(lista.d, *lista.dibujo, lista.isotropico, destino))
-        calculo.errores.push_back("no se ha podido escribir el diagrama en «" + destino + "».");
+    if (escritorSvg && escritorSvg(lista.d, *lista.dibujo, lista.isotropico, destino)) return true;
+    calculo.errores.push_back("no se ha podido escribir el diagrama en «" + destino + "».");
+    return false;
 }
 
-// The diagram of a calculated file, written as SVG when asked; none for a file that failed.
+// The diagram of a calculated file, written as SVG when asked; none for a file that failed,
+// unless it was read whole and the diagram needs no calculation. The calculation's messages stay
+// with the file, which still fails.
 std::optional<ListaDiagrama> DiagramaDelFichero(CalculoFichero& calculo, const Orden& orden, char separador,
                                                 const EscritorSvg& escritorSvg)
 {
-    if (!orden.diagrama || !calculo.Correcto()) return std::nullopt;
+    if (!orden.diagrama) return std::nullopt;
+    if (!calculo.Correcto() && !(calculo.leido && !NecesitaCalculo(*orden.diagrama))) return std::nullopt;
     std::optional<ListaDiagrama> lista = DibujaDiagrama(calculo, {*orden.diagrama, orden.tipo, orden.capas}, separador);
-    if (lista && orden.carpetaSvg) GuardaSvg(calculo, *lista, orden, escritorSvg);
+    // A diagram that could not reach its file is not given as drawn.
+    if (lista && orden.carpetaSvg && !GuardaSvg(calculo, *lista, orden, escritorSvg)) return std::nullopt;
     return lista;
 }
 
@@ -245,13 +253,14 @@ std::string TextoAyuda()
            "rectangular o en T), .vmc confinamiento.\n"
            "\n"
            "Opciones:\n"
-           "  --json      escribe un objeto JSON por fichero, cada uno en una sola línea, con\n"
-           "              «fichero», «tipo» (rectangular, T o confinamiento), todos los datos\n"
-           "              y resultados del proyecto por su nombre (las tablas, una lista por\n"
-           "              tipo de refuerzo con un valor por número de capas) y «veredicto»;\n"
-           "              los números con 17 cifras significativas y punto decimal, null\n"
-           "              si no es finito. Si el fichero falla, el objeto lleva «error» en\n"
-           "              lugar de los resultados.\n"
+           "  --json      escribe un objeto JSON por fichero, cada uno en una sola línea,\n"
+           "              con «fichero», «tipo» (rectangular, T o confinamiento), todos los\n"
+           "              datos y resultados del proyecto por su nombre (las tablas, una\n"
+           "              lista por tipo de refuerzo con un valor por número de capas) y\n"
+           "              «veredicto» (el texto del veredicto de la pantalla, o null si no\n"
+           "              muestra ninguno); los números con 17 cifras significativas y punto\n"
+           "              decimal, null si no es finito. Si el fichero falla, el objeto\n"
+           "              lleva «error» en lugar de los resultados.\n"
            "  --csv       escribe una sola tabla para una hoja de cálculo, con una fila por\n"
            "              fichero, tipo de refuerzo y número de capas y las columnas\n"
            "              «fichero», «tipo» (rectangular, T o confinamiento), «refuerzo»\n"
@@ -266,8 +275,9 @@ std::string TextoAyuda()
            "              entre comillas si lo necesitan; UTF-8 con marca de orden de bytes\n"
            "              y fin de línea CR LF. Solo se combina con los nombres de fichero.\n"
            "  --diagrama NOMBRE\n"
-           "              tras el cálculo dibuja el diagrama NOMBRE del proyecto, el mismo que\n"
-           "              dibujaría su pantalla (el de la sección en T para una sección en T):\n"
+           "              tras el cálculo dibuja el diagrama NOMBRE del proyecto, el mismo\n"
+           "              que dibujaría su pantalla (el de la sección en T para una sección\n"
+           "              en T):\n"
            "                tension        tensión-deformación de los refuerzos, con los\n"
            "                               puntos de cálculo del tipo de --tipo; en\n"
            "                               cualquier proyecto.\n"
@@ -280,6 +290,8 @@ std::string TextoAyuda()
            "                pivotes        deformaciones y pivotes de la celda de --tipo y\n"
            "                               --capas; solo en flexión.\n"
            "                seccion        la sección acotada; en cualquier proyecto.\n"
+           "              tension y seccion no necesitan el cálculo: se dibujan aunque este\n"
+           "              falle, y el fichero falla igualmente con el mensaje del cálculo.\n"
            "              Con --json el objeto lleva además «lista», la lista de dibujo que\n"
            "              deja el diagrama: «diagrama» (el nombre de su procedimiento, como\n"
            "              DiagramaMomentoCapasT), «NLISTA», «LISTA» (una lista de los 10\n"
@@ -291,9 +303,10 @@ std::string TextoAyuda()
            "              escribe el informe de cada fichero en CARPETA/<nombre del fichero\n"
            "              sin extensión>.pdf, el mismo que imprime la orden Imprimir de su\n"
            "              pantalla tras Calcular, para la celda de --tipo y --capas (la que\n"
-           "              Calcular muestra si no se dan). Crea la carpeta si no existe. Si la\n"
-           "              celda no tiene resultado («---»), el fichero falla con el mensaje\n"
-           "              del informe y no se escribe nada. No necesita pantalla gráfica.\n"
+           "              Calcular muestra si no se dan). Crea la carpeta si no existe. Si\n"
+           "              la celda no tiene resultado («---»), el fichero falla con el\n"
+           "              mensaje del informe y no se escribe nada. No necesita pantalla\n"
+           "              gráfica.\n"
            "  --tipo N    el tipo de refuerzo de tension, de pivotes y del informe, de 1 a 3\n"
            "              (1 TEXALON L, 2 TEXALON H, 3 TEXALON X); 1 si no se da.\n"
            "  --capas N   el número de capas de pivotes y del informe, de 1 a 5; 1 si no se\n"
@@ -302,9 +315,9 @@ std::string TextoAyuda()
            "  --svg CARPETA\n"
            "              escribe el diagrama de cada fichero en\n"
            "              CARPETA/<nombre del fichero sin extensión>-NOMBRE.svg, tal como se\n"
-           "              ve en la pantalla: el mismo ajuste al tamaño del dibujo, las formas\n"
-           "              rellenas y los textos medidos como en ella. Crea la carpeta si no\n"
-           "              existe. Necesita --diagrama; no necesita pantalla gráfica.\n"
+           "              ve en la pantalla: el mismo ajuste al tamaño del dibujo, las\n"
+           "              formas rellenas y los textos medidos como en ella. Crea la carpeta\n"
+           "              si no existe. Necesita --diagrama; no necesita pantalla gráfica.\n"
            "  -h, --help  muestra esta ayuda y termina.\n"
            "  --          lo que sigue son nombres de fichero, aunque empiecen por «-».\n"
            "\n"

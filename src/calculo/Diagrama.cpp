@@ -141,6 +141,8 @@ std::string_view NombreDiagrama(Diagrama diagrama)
     return "seccion";
 }
 
+bool NecesitaCalculo(Diagrama diagrama) { return diagrama != Diagrama::Tension && diagrama != Diagrama::Seccion; }
+
 std::optional<Diagrama> DiagramaDeNombre(std::string_view nombre)
 {
     for (const Diagrama diagrama : kDiagramas)

@@ -28,6 +28,11 @@ std::optional<Diagrama> DiagramaDeNombre(std::string_view nombre);
 // The names in the order above, joined as a Spanish list: "tension, ..., pivotes y seccion".
 std::string NombresDiagramas();
 
+// The section drawing reads only the section's data and the stress-strain chart only the
+// catalogue and the coefficients: they need no calculation, and are drawn for a file read whole
+// even when its calculation failed.
+bool NecesitaCalculo(Diagrama diagrama);
+
 // The sheet types and the numbers of layers that a diagram may be asked for.
 constexpr int kTipoMaximo = 3;
 constexpr int kCapasMaximo = 5;
@@ -51,7 +56,8 @@ struct ListaDiagrama {
 // Draws the diagram of a calculated file with its own state, the texts with `separador` as
 // decimal separator. When the file's kind of project has no such diagram, the cell of `pivotes`
 // has no result or the procedure fails, the message goes to the file's errors and there is no
-// list. Only for a file that succeeded.
+// list. Only for a file that succeeded, or one read whole for a diagram that needs no
+// calculation.
 std::optional<ListaDiagrama> DibujaDiagrama(CalculoFichero& calculo, const PeticionDiagrama& peticion, char separador);
 
 }  // namespace texalon::calculo

@@ -28,12 +28,21 @@ void Imprime(CalculoFichero& calculo, plataforma::Impresora& impresora, int tipo
 
 }  // namespace
 
-void ImprimeInforme(CalculoFichero& calculo, plataforma::Impresora& impresora, int tipo, int capas, char separador)
+std::string MensajeInformeSinEscribir(const std::string& destino)
+{
+    return "no se ha podido escribir el informe en «" + destino + "».";
+}
+
+void ImprimeInforme(CalculoFichero& calculo, plataforma::Impresora& impresora, int tipo, int capas, char separador,
+                    const std::string& destino)
 {
     try {
         Imprime(calculo, impresora, tipo, capas, separador);
     } catch (const ErrorEjecucion& error) {
-        calculo.errores.push_back(MensajeErrorEjecucion(error.Numero()));
+        // The printer writes the file as the document ends: a path it cannot reach is told by name.
+        calculo.errores.push_back(error.Numero() == ErrorEjecucion::kErrorDeAccesoRuta
+                                      ? MensajeInformeSinEscribir(destino)
+                                      : MensajeErrorEjecucion(error.Numero()));
     } catch (const std::bad_alloc&) {
         calculo.errores.push_back(MensajeErrorEjecucion(ErrorEjecucion::kMemoriaInsuficiente));
     }

@@ -5,12 +5,19 @@
 #include "calculo/Proyecto.h"
 #include "platform/Impresora.h"
 
+#include <string>
+
 namespace texalon::calculo {
 
+// "no se ha podido escribir el informe en «DESTINO».": the report's file could not be written.
+std::string MensajeInformeSinEscribir(const std::string& destino);
+
 // Prints the report of a calculated file for the cell (tipo, capas), as Print prints it on the
-// file's screen after a Calculate with that cell chosen. A cell that the report refuses ("---")
-// leaves the report's own message in the file's errors and nothing reaches the printer; a
-// run-time error of the report leaves its message too. Only for a file that succeeded.
-void ImprimeInforme(CalculoFichero& calculo, plataforma::Impresora& impresora, int tipo, int capas, char separador);
+// file's screen after a Calculate with that cell chosen, to the file `destino`. A cell that the
+// report refuses ("---") leaves the report's own message in the file's errors and nothing
+// reaches the printer; a file the printer cannot write leaves the message that names it; any
+// other run-time error of the report leaves its own. Only for a file that succeeded.
+void ImprimeInforme(CalculoFichero& calculo, plataforma::Impresora& impresora, int tipo, int capas, char separador,
+                    const std::string& destino);
 
 }  // namespace texalon::calculo

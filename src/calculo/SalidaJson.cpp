@@ -209,16 +209,21 @@ std::string ObjetoJson(const CalculoFichero& calculo, const ListaDiagrama* lista
     if (const auto tipo = NombreTipo(calculo)) objeto.Texto("tipo", *tipo);
     if (!calculo.Correcto()) {
         objeto.Texto("error", Unidos(calculo.errores));
-        return objeto.Cierra();
-    }
-    if (calculo.clase == ClaseFichero::Flexion) {
-        DatosFlexion(objeto, calculo.g, calculo.seccion == kSeccionT);
-        ResultadosFlexion(objeto, calculo.g);
     } else {
-        DatosConfinamiento(objeto, calculo.g);
-        ResultadosConfinamiento(objeto, calculo.g);
+        if (calculo.clase == ClaseFichero::Flexion) {
+            DatosFlexion(objeto, calculo.g, calculo.seccion == kSeccionT);
+            ResultadosFlexion(objeto, calculo.g);
+        } else {
+            DatosConfinamiento(objeto, calculo.g);
+            ResultadosConfinamiento(objeto, calculo.g);
+        }
+        // No verdict on show is no text at all: null, not an empty string.
+        if (calculo.veredicto == Veredicto::Oculto)
+            objeto.Miembro("veredicto", "null");
+        else
+            objeto.Texto("veredicto", TextoVeredicto(calculo.veredicto));
     }
-    objeto.Texto("veredicto", TextoVeredicto(calculo.veredicto));
+    // A drawing that reads only the project's data comes even when the calculation failed.
     if (lista != nullptr) objeto.Miembro("lista", ObjetoLista(*lista));
     return objeto.Cierra();
 }

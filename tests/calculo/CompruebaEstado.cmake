@@ -3,6 +3,7 @@
 #   -DPROGRAMA=<path of texalon-calculo>  -DESTADO=<expected status>
 #   -DFICHERO=<one argument, may be empty>  -DTEXTO=<text expected in the output, may be empty>
 #   -DOPCIONES=<options ahead of the file, parted by blanks, may be empty>
+#   -DERRORES=<text expected on the error output, may be empty>
 separate_arguments(argumentos UNIX_COMMAND "${OPCIONES}")
 if(FICHERO)
   list(APPEND argumentos "${FICHERO}")
@@ -19,5 +20,11 @@ if(TEXTO)
   string(FIND "${salida}" "${TEXTO}" posicion)
   if(posicion EQUAL -1)
     message(FATAL_ERROR "La salida no contiene «${TEXTO}»:\n${salida}")
+  endif()
+endif()
+if(ERRORES)
+  string(FIND "${errores}" "${ERRORES}" posicion)
+  if(posicion EQUAL -1)
+    message(FATAL_ERROR "La salida de errores no contiene «${ERRORES}»:\n${errores}")
   endif()
 endif()

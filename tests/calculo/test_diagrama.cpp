@@ -13,6 +13,7 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <filesystem>
 #include <functional>
 #include <map>
 
@@ -460,20 +461,78 @@ TEST(DiagramaCalculo, UnaCeldaSinResultadoEnLaSeccionEnT)
                                      " no tiene resultado («---»): no hay diagrama de pivotes.\n");
 }
 
-TEST(DiagramaCalculo, LaPredeformacionDetieneElCalculoYNoHayDiagrama)
+// MCP, line 13 of a rectangular file, far over the limit of the initial strain.
+std::string VigaConPredeformacion()
 {
-    DirectorioTemporal directorio;
-    // MCP, line 13 of a rectangular file, far over the limit of the initial strain.
     std::string contenido(kFlexionRectangular);
     contenido.replace(contenido.find("0.125\r\n0\r\n"), 10, "0.125\r\n1000\r\n");
-    const std::string fichero = directorio.Escribe("viga.vmf", contenido);
-    for (const std::string nombre : {"tension", "capas", "seccion"}) {
+    return contenido;
+}
+
+TEST(DiagramaCalculo, LaPredeformacionDetieneElCalculoYNoHayDiagramaDeResultados)
+{
+    DirectorioTemporal directorio;
+    const std::string fichero = directorio.Escribe("viga.vmf", VigaConPredeformacion());
+    for (const std::string nombre : {"capas", "area", "pivotes"}) {
         const Ejecucion ejecucion = EjecutaCalculo({"--json", "--diagrama", nombre, fichero});
         EXPECT_EQ(ejecucion.estado, 1);
         EXPECT_EQ(ejecucion.errores, fichero + ": " + std::string(kMensajePredeformacion) + "\n");
         EXPECT_EQ(ejecucion.salida, "{\"fichero\":\"" + fichero + "\",\"tipo\":\"rectangular\",\"error\":\"" +
                                         std::string(kMensajePredeformacion) + "\"}\n");
     }
+}
+
+// The section drawing reads only the section's data and the stress-strain chart only the
+// catalogue: both are drawn past the strain limit, the same as for the beam without its initial
+// moment, and the file still fails with the calculation's message.
+TEST(DiagramaCalculo, PasadaLaPredeformacionSeccionYTensionSeDibujanIgual)
+{
+    DirectorioTemporal directorio;
+    const std::string fichero = directorio.Escribe("viga.vmf", VigaConPredeformacion());
+    const std::string sinMomento = directorio.Escribe("sin_momento.vmf", kFlexionRectangular);
+    for (const std::string nombre : {"seccion", "tension"}) {
+        const Ejecucion ejecucion = EjecutaCalculo({"--json", "--diagrama", nombre, "--tipo", "2", fichero});
+        EXPECT_EQ(ejecucion.estado, 1) << nombre;
+        EXPECT_EQ(ejecucion.errores, fichero + ": " + std::string(kMensajePredeformacion) + "\n") << nombre;
+        const ValorJson objeto = LeeJson(ejecucion.salida);
+        EXPECT_EQ(objeto.Nombres(), (std::vector<std::string>{"fichero", "tipo", "error", "lista"})) << nombre;
+        EXPECT_EQ(objeto["error"].cadena, std::string(kMensajePredeformacion));
+        EXPECT_EQ(objeto["lista"]["diagrama"].cadena, nombre == "seccion" ? "DibujaSeccion" : "DiagramaTension");
+        EXPECT_GT(objeto["lista"]["NLISTA"].numero, 0.0) << nombre;
+        // The list is the last member: its text, as written for the beam without the moment.
+        const std::string referencia =
+            EjecutaCalculo({"--json", "--diagrama", nombre, "--tipo", "2", sinMomento}).salida;
+        const auto lista = [](const std::string& linea) { return linea.substr(linea.find("\"lista\":")); };
+        EXPECT_EQ(lista(ejecucion.salida), lista(referencia)) << nombre;
+    }
+}
+
+TEST(DiagramaCalculo, PasadaLaPredeformacionLaSeccionVaASuSvg)
+{
+    DirectorioTemporal directorio;
+    const std::string fichero = directorio.Escribe("viga.vmf", VigaConPredeformacion());
+    std::vector<std::string> escritos;
+    calculo::Dispositivos dispositivos;
+    dispositivos.svg = [&escritos](const GeneralDibujo& d, const Dibujo&, Entero, const std::string& destino) {
+        escritos.push_back(destino);
+        return d.NLISTA > 0;
+    };
+    const std::string carpeta = directorio.Ruta().string();
+    const Ejecucion ejecucion = EjecutaCalculo({"--diagrama", "seccion", "--svg", carpeta, fichero}, ',', dispositivos);
+    EXPECT_EQ(ejecucion.estado, 1);
+    EXPECT_EQ(ejecucion.errores, fichero + ": " + std::string(kMensajePredeformacion) + "\n");
+    EXPECT_EQ(escritos, std::vector<std::string>{(std::filesystem::path(carpeta) / "viga-seccion.svg").string()});
+    EXPECT_EQ(ejecucion.salida, "");
+}
+
+// A file that cannot be read has no data to draw.
+TEST(DiagramaCalculo, UnFicheroIlegibleNoDibujaNiLaSeccion)
+{
+    DirectorioTemporal directorio;
+    const std::string fichero = directorio.Escribe("viga.vmf", "1\r\n0.4\r\n");
+    const Ejecucion ejecucion = EjecutaCalculo({"--json", "--diagrama", "seccion", fichero});
+    EXPECT_EQ(ejecucion.estado, 1);
+    EXPECT_FALSE(LeeJson(ejecucion.salida).Tiene("lista"));
 }
 
 TEST(DiagramaCalculo, LaPredeformacionDelPilarTambien)

@@ -8,6 +8,7 @@
 #include "engine/Caracteristicas.h"
 #include "platform/dobles/ImpresoraDoble.h"
 #include "reports/Informes.h"
+#include "state/ErrorEjecucion.h"
 
 #include <gtest/gtest.h>
 
@@ -25,7 +26,10 @@ using plataforma::Operacion;
 // A printer for each report asked for, kept with the file it would write.
 class ImpresorasDePrueba {
 public:
-    explicit ImpresorasDePrueba(bool disponibles = true) : disponibles_(disponibles) {}
+    explicit ImpresorasDePrueba(bool disponibles = true, int errorAlTerminar = 0)
+        : disponibles_(disponibles), errorAlTerminar_(errorAlTerminar)
+    {
+    }
 
     calculo::Dispositivos Dispositivos()
     {
@@ -35,6 +39,7 @@ public:
             ficheros.push_back(fichero);
             if (!disponibles_) return false;
             impresoras.emplace_back();
+            impresoras.back().errorAlTerminar = errorAlTerminar_;
             imprime(impresoras.back());
             return true;
         };
@@ -46,6 +51,7 @@ public:
 
 private:
     bool disponibles_;
+    int errorAlTerminar_;
 };
 
 bool Imprimio(const ImpresoraDoble& impresora, const std::string& texto)
@@ -157,6 +163,33 @@ TEST(InformeCalculo, SinImpresoraElFicheroFalla)
     EXPECT_EQ(ejecucion.estado, 1);
     const std::string destino = (directorio.Ruta() / "viga.pdf").string();
     EXPECT_EQ(ejecucion.errores, viga + ": no se ha podido escribir el informe en «" + destino + "».\n");
+}
+
+// The printer writes the file as the document ends; a path it cannot reach fails the file with
+// the name of the report's file, not with the bare run-time error.
+TEST(InformeCalculo, UnInformeQueNoSePuedeEscribirDiceSuFichero)
+{
+    DirectorioTemporal directorio;
+    const std::string viga = directorio.Escribe("viga.vmf", kFlexionRectangularMd250);
+    ImpresorasDePrueba impresoras(true, ErrorEjecucion::kErrorDeAccesoRuta);
+    const Ejecucion ejecucion =
+        EjecutaCalculo({"--informe", directorio.Ruta().string(), viga}, ',', impresoras.Dispositivos());
+    EXPECT_EQ(ejecucion.estado, 1);
+    const std::string destino = (directorio.Ruta() / "viga.pdf").string();
+    EXPECT_EQ(ejecucion.errores, viga + ": no se ha podido escribir el informe en «" + destino + "».\n");
+}
+
+TEST(InformeCalculo, UnaCarpetaQueNoSePuedeCrearSeNombra)
+{
+    DirectorioTemporal directorio;
+    const std::string viga = directorio.Escribe("viga.vmf", kFlexionRectangularMd250);
+    // A folder inside a file.
+    const std::string carpeta = (directorio.Ruta() / "viga.vmf" / "informes").string();
+    ImpresorasDePrueba impresoras;
+    const Ejecucion ejecucion = EjecutaCalculo({"--informe", carpeta, viga}, ',', impresoras.Dispositivos());
+    EXPECT_EQ(ejecucion.estado, 1);
+    EXPECT_EQ(ejecucion.errores, viga + ": no se ha podido crear la carpeta «" + carpeta + "» del informe.\n");
+    EXPECT_TRUE(impresoras.ficheros.empty());
 }
 
 TEST(InformeCalculo, UnFicheroQueFallaNoTieneInforme)

@@ -26,7 +26,7 @@ TEST(OrdenCalculo, AyudaCortaAunqueHayaFicheros)
 
 TEST(OrdenCalculo, LaAyudaDiceComoSaleElJson)
 {
-    EXPECT_TRUE(Contiene(calculo::TextoAyuda(), "un objeto JSON por fichero, cada uno en una sola línea"));
+    EXPECT_TRUE(Contiene(calculo::TextoAyuda(), "un objeto JSON por fichero, cada uno en una sola línea,"));
 }
 
 TEST(OrdenCalculo, SinArgumentosEsErrorDeUso)

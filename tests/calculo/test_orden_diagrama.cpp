@@ -149,7 +149,11 @@ TEST(OrdenDiagrama, LaAyudaDiceLaListaElSvgYLosErrores)
     EXPECT_TRUE(Contiene(ayuda, "predeformación superior al 2 por mil"));
     EXPECT_TRUE(Contiene(ayuda, "(area en un pilar, por ejemplo)"));
     EXPECT_TRUE(Contiene(ayuda, "resultado («---»)"));
-    EXPECT_TRUE(Contiene(ayuda, "o --svg sin --diagrama."));
+    EXPECT_TRUE(Contiene(ayuda, ", --svg sin --diagrama o --csv con otra opción."));
+    EXPECT_TRUE(Contiene(ayuda, "tension y seccion no necesitan el cálculo: se dibujan aunque este\n"
+                                "              falle, y el fichero falla igualmente con el mensaje del cálculo."));
+    EXPECT_TRUE(Contiene(ayuda, "«veredicto» (el texto del veredicto de la pantalla, o null si no\n"
+                                "              muestra ninguno)"));
 }
 
 }  // namespace

@@ -114,7 +114,7 @@ TEST(SalidaJsonCalculo, UnObjetoPorLinea)
                          "\"tipo\":\"T\",\"ANCHO\":0.40000000000000002,\"CANTO\":0.59999999999999998,"
                          "\"ANCHOALMA\":0.20000000000000001,\"CANTOALA\":0.20000000000000001,"));
     EXPECT_TRUE(Contiene(objetos[1], "\"tipo\":\"confinamiento\",\"SECCION\":1,"));
-    EXPECT_TRUE(Contiene(objetos[1], "\"veredicto\":\"\"}"));
+    EXPECT_TRUE(Contiene(objetos[1], "\"veredicto\":null}"));
 }
 
 }  // namespace

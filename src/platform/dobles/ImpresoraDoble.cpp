@@ -1,5 +1,7 @@
 #include "platform/dobles/ImpresoraDoble.h"
 
+#include "state/ErrorEjecucion.h"
+
 #include <algorithm>
 #include <utility>
 
@@ -117,6 +119,7 @@ void ImpresoraDoble::NewPage()
 void ImpresoraDoble::EndDoc()
 {
     Anota("EndDoc", {});
+    if (errorAlTerminar != 0) throw ErrorEjecucion(errorAlTerminar);
     ++documentosTerminados;
     pagina_ = 1;
     x_ = 0.0;

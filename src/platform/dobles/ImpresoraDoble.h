@@ -67,6 +67,9 @@ public:
     int estilo = kTrazoContinuo;
     int ancho = 1;
     int documentosTerminados = 0;
+    // When not 0, EndDoc throws this run-time error, as a printer does that cannot write its
+    // document where it was sent.
+    int errorAlTerminar = 0;
 
 private:
     void Anota(std::string nombre, std::vector<double> numeros, std::string texto = {});
