@@ -11,6 +11,7 @@
 #   share/applications/texalon.desktop     the menu entry, which opens .vmf and .vmc files
 #   share/mime/packages/texalon.xml        the two kinds of project file
 #   share/icons/hicolor/<N>x<N>/{apps,mimetypes}/*.png and scalable/.../*.svg
+#   share/bash-completion/completions/texalon-calculo
 #
 # The program looks for its data in ../share/texalon from the folder of its executable, so bin
 # and share must stay side by side under the same prefix.
@@ -45,6 +46,10 @@ install(FILES ${PROJECT_SOURCE_DIR}/packaging/texalon.desktop
         DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
 install(FILES ${PROJECT_SOURCE_DIR}/packaging/texalon.xml
         DESTINATION ${CMAKE_INSTALL_DATADIR}/mime/packages)
+
+# -- The shell: completion of the batch command ---------------------------------------------
+install(FILES ${PROJECT_SOURCE_DIR}/packaging/texalon-calculo.bash
+        DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions RENAME texalon-calculo)
 
 # The PNG icons are drawn from the SVG pictures during the build, by tools/iconos, into
 # <build>/iconos/hicolor; the installation copies them from there. A build without the tools
