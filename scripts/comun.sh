@@ -8,6 +8,7 @@ PAQUETES=(
   libgtest-dev googletest libbenchmark-dev
   fonts-liberation locales poppler-utils python3
   dpkg-dev desktop-file-utils shared-mime-info libxml2-utils
+  help2man man-db lintian appstream
   ccache
   xvfb openbox xdotool x11-utils
 )

@@ -6,8 +6,11 @@
 # Builds the .deb with cpack from the build tree into a temporary folder, unpacks it with
 # dpkg-deb -x into a temporary root and checks there the programs, the menu entry, the project
 # file types, the icons, the help and the guide, the package's fields and dependencies, and runs
-# the batch command from the unpacked root. Every failed check says what is wrong; the script
-# goes through all of them and exits with 1 if any failed.
+# the batch command from the unpacked root. Then what Debian and the software centres expect of
+# it: the copyright file and the changelog, the manual pages, the bash completion, the AppStream
+# data (appstreamcli), and lintian on the whole package, which must give no error and no warning.
+# Every failed check says what is wrong; the script goes through all of them and exits with 1 if
+# any failed.
 set -euo pipefail
 
 if [ $# -ne 4 ]; then
@@ -32,7 +35,8 @@ aborta() {
   exit 1
 }
 
-for orden in dpkg-deb desktop-file-validate update-mime-database xmllint readelf; do
+for orden in dpkg-deb dpkg-parsechangelog desktop-file-validate update-mime-database xmllint readelf \
+             gzip man lexgrog appstreamcli lintian; do
   command -v "$orden" >/dev/null || aborta "falta la orden $orden (instálela con ./test.sh)"
 done
 
@@ -262,6 +266,164 @@ if [ -x "$usr/bin/texalon-calculo" ]; then
   if [ ${#ejemplos[@]} -gt 0 ] && ! salida=$("$usr/bin/texalon-calculo" "${ejemplos[@]}" 2>&1 >/dev/null); then
     falla "texalon-calculo del paquete no calcula los ejemplos instalados: $salida"
   fi
+fi
+
+# -- Compressed documents ----------------------------------------------------------------------------
+# comprimido FICHERO QUIEN: a whole gzip file, compressed at the best level and without the name
+# or the time of the original, so that the same text gives the same bytes (gzip -9n).
+comprimido() {
+  local fichero=$1 quien=$2 cabecera
+  if ! gzip -t "$fichero" 2>/dev/null; then
+    falla "$quien no es un fichero gzip entero"
+    return 1
+  fi
+  # ID1 ID2 CM FLG, MTIME (4 bytes), XFL: no FNAME flag, no time, 2 for the best compression.
+  cabecera=$(od -An -tx1 -N9 "$fichero" | tr -d ' \n')
+  [ "$cabecera" = 1f8b08000000000002 ] || falla "$quien no está comprimido con gzip -9n (cabecera $cabecera)"
+}
+
+# -- The copyright file and the changelog ------------------------------------------------------------
+documentos="$usr/share/doc/texalon"
+copyright="$documentos/copyright"
+if [ ! -s "$copyright" ]; then
+  falla "falta usr/share/doc/texalon/copyright"
+else
+  # Debian's machine-readable form: its header, every file under one licence, and that licence
+  # written out in a paragraph of its own.
+  grep -qx 'Format: https://www.debian.org/doc/packaging-manuals/copyright-format/1.0/' "$copyright" ||
+    falla "copyright no tiene la cabecera Format del formato de Debian"
+  grep -qx "Upstream-Contact: $(campo Maintainer)" "$copyright" ||
+    falla "el Upstream-Contact de copyright no es el Maintainer del paquete, «$(campo Maintainer)»"
+  grep -qx 'Files: \*' "$copyright" || falla "copyright no tiene un párrafo «Files: *»"
+  grep -qE '^Copyright: [0-9]{4}(-[0-9]{4})? VELMORA$' "$copyright" || falla "copyright no da VELMORA como titular"
+  [ "$(grep -c '^License: LicenseRef-VELMORA$' "$copyright")" -eq 2 ] ||
+    falla "copyright no lleva la licencia LicenseRef-VELMORA en los ficheros y en su propio párrafo"
+  texto_licencia=$(awk '/^License: LicenseRef-VELMORA$/ { n++; next } n == 2 && /^ / { print } n == 2 && /^$/ { exit }' "$copyright")
+  [[ "$texto_licencia" == *"usarlos y copiarlos"* && "$texto_licencia" == *"sin ningún cambio"* &&
+     "$texto_licencia" == *"demás derechos están reservados"* ]] ||
+    falla "el párrafo de LicenseRef-VELMORA no escribe la licencia: «$texto_licencia»"
+fi
+
+# A package made from its own sources (native: its version has no Debian revision) keeps its
+# changelog as changelog.gz; changelog.Debian.gz is for one made from another's.
+changelog="$documentos/changelog.gz"
+# entrada CAMPO: the field of the changelog's last entry, as dpkg-parsechangelog reads it.
+entrada() { [ -f "$temporal/changelog" ] && dpkg-parsechangelog -l "$temporal/changelog" -S "$1" 2>/dev/null || true; }
+[ ! -e "$documentos/changelog.Debian.gz" ] || falla "el paquete es nativo: su changelog es changelog.gz, no changelog.Debian.gz"
+if [ ! -f "$changelog" ]; then
+  falla "falta usr/share/doc/texalon/changelog.gz"
+elif comprimido "$changelog" changelog.gz; then
+  gzip -dc "$changelog" >"$temporal/changelog"
+  [ "$(entrada Source)" = texalon ] || falla "la entrada del changelog no es del paquete texalon: «$(entrada Source)»"
+  [ "$(entrada Version)" = "$version" ] || falla "la última entrada del changelog es de la versión «$(entrada Version)», no de $version"
+  [ "$(entrada Maintainer)" = "$(campo Maintainer)" ] ||
+    falla "la entrada del changelog la firma «$(entrada Maintainer)», no el Maintainer «$(campo Maintainer)»"
+  [ -n "$(entrada Timestamp)" ] || falla "la entrada del changelog no tiene una fecha válida"
+  [[ "$(entrada Changes)" == *"  * "* ]] || falla "la entrada del changelog no cuenta ningún cambio"
+fi
+
+# -- The manual pages ------------------------------------------------------------------------------
+for programa in texalon texalon-calculo; do
+  pagina="$usr/share/man/man1/$programa.1.gz"
+  if [ ! -f "$pagina" ]; then
+    falla "falta la página de manual usr/share/man/man1/$programa.1.gz"
+    continue
+  fi
+  comprimido "$pagina" "$programa.1.gz" || continue
+  # groff's warnings go to the error output; the page must give none.
+  if ! texto=$(LC_ALL=C.UTF-8 MANWIDTH=80 man --warnings -l "$pagina" 2>"$temporal/avisos_man") ||
+     [ -s "$temporal/avisos_man" ]; then
+    falla "man -l $programa.1.gz no muestra la página sin avisos: $(cat "$temporal/avisos_man")"
+  fi
+  [[ "$texto" == *NOMBRE* && "$texto" == *SINOPSIS* && "$texto" == *DESCRIPCI* ]] ||
+    falla "$programa.1.gz no tiene las secciones NOMBRE, SINOPSIS y DESCRIPCIÓN en español"
+  [[ "$(lexgrog "$pagina" 2>&1)" == *": \"$programa - "* ]] ||
+    falla "lexgrog no halla la sección NOMBRE de $programa.1.gz: $(lexgrog "$pagina" 2>&1)"
+  echo "$programa.1.gz: $(lexgrog "$pagina" 2>&1 | sed 's/^[^:]*: //')"
+  declare "manual_${programa//-/_}=$texto"
+done
+# The page of the command is made from its --help: every option of the help is in it.
+if [ -n "${manual_texalon_calculo:-}" ] && [ -x "$usr/bin/texalon-calculo" ]; then
+  while read -r opcion; do
+    [[ "$manual_texalon_calculo" == *"$opcion"* ]] || falla "texalon-calculo.1.gz no trae la opción $opcion de --help"
+  done < <("$usr/bin/texalon-calculo" --help | grep -oE '^  (-h, )?--[a-z]*' | grep -oE -- '--[a-z]*$')
+fi
+
+# -- The bash completion -----------------------------------------------------------------------------
+completado="$usr/share/bash-completion/completions/texalon-calculo"
+if [ ! -f "$completado" ]; then
+  falla "falta el completado de bash usr/share/bash-completion/completions/texalon-calculo"
+elif ! bash "$(dirname "$0")/prueba_completado.sh" "$completado"; then
+  falla "el completado de bash instalado no completa texalon-calculo como debe"
+fi
+
+# -- Software centres: the AppStream data ------------------------------------------------------------
+shopt -s nullglob
+metainfo=("$usr/share/metainfo/"*.metainfo.xml)
+shopt -u nullglob
+if [ ${#metainfo[@]} -ne 1 ]; then
+  falla "usr/share/metainfo debe tener un fichero <id>.metainfo.xml y tiene ${#metainfo[@]}"
+else
+  metainfo=${metainfo[0]}
+  dato() { xpath "string($1)" "$metainfo"; }
+  identificador=$(dato "/component/id")
+  [ "$(basename "$metainfo")" = "$identificador.metainfo.xml" ] ||
+    falla "$(basename "$metainfo") no se llama como su componente, $identificador.metainfo.xml"
+  # The id under the maker's web domain, reversed: www.velmora.example gives example.velmora.
+  dominio=$(campo Homepage | sed -E 's|^https://(www\.)?([^/]+).*|\2|')
+  dominio_invertido=$(tr '.' '\n' <<<"$dominio" | tac | paste -sd.)
+  [[ "$identificador" == "$dominio_invertido".* ]] ||
+    falla "el id $identificador no está bajo el dominio de la web, $dominio_invertido"
+  [ "$(dato /component/@type)" = desktop-application ] || falla "el componente no es desktop-application"
+  [ "$(dato '/component/@xml:lang')" = es ] || falla "los textos del componente no están declarados en español (xml:lang)"
+  [ "$(dato "/component/launchable[@type='desktop-id']")" = texalon.desktop ] ||
+    falla "el componente no lanza texalon.desktop"
+  [ "$(dato /component/project_license)" = "$(sed -n 's/^License: //p' "$copyright" | head -1)" ] ||
+    falla "project_license no es la licencia del fichero copyright"
+  [ "$(dato /component/developer_name)" = VELMORA ] || falla "developer_name no es VELMORA"
+  [ "$(dato "/component/url[@type='homepage']")" = "$(campo Homepage)" ] || falla "la url homepage no es el Homepage del paquete"
+  [ "$(dato "/component/releases/release[1]/@version")" = "$version" ] ||
+    falla "la última versión de releases no es $version"
+  [ "$(dato "/component/releases/release[1]/@date")" = "$(date -u -d "$(entrada Date)" +%F)" ] ||
+    falla "la fecha de la versión en releases no es la de la entrada del changelog"
+  for tipo in "${lista_tipos[@]}"; do
+    [ -z "$tipo" ] || [ "$(dato "count(/component/provides/mediatype[.='$tipo'])")" = 1 ] ||
+      falla "el componente no ofrece el tipo $tipo de texalon.desktop"
+  done
+  capturas=$(dato "count(/component/screenshots/screenshot)")
+  [ "${capturas:-0}" -ge 1 ] || falla "el componente no tiene capturas"
+  for ((i = 1; i <= ${capturas:-0}; i++)); do
+    imagen=$(dato "/component/screenshots/screenshot[$i]/image")
+    [[ "$imagen" == "$(campo Homepage)"/texalon/capturas/*.png ]] ||
+      falla "la captura $imagen no está en la web del fabricante"
+    [ -f "$(dirname "$0")/../../docs/$(basename "$imagen")" ] || falla "la captura $(basename "$imagen") no es una imagen de docs/"
+    [ -n "$(dato "/component/screenshots/screenshot[$i]/caption")" ] || falla "la captura $(basename "$imagen") no tiene pie"
+  done
+  # The file alone, then with the menu entry it names, as the package installs them: no error
+  # and no warning (a note is shown, and does not fail).
+  valida_appstream() {
+    local salida estado
+    salida=$(appstreamcli "$@" 2>&1) && estado=0 || estado=$?
+    echo "appstreamcli $*:"
+    echo "$salida" | sed 's/^/  /'
+    if [ $estado -ne 0 ] || grep -qE '^ *[EW]: ' <<<"$salida"; then
+      falla "appstreamcli $1 no acepta los datos de AppStream sin errores ni avisos"
+    fi
+  }
+  valida_appstream validate --no-net --pedantic "$metainfo"
+  valida_appstream validate-tree --no-net --pedantic "$raiz"
+fi
+
+# -- lintian ---------------------------------------------------------------------------------------
+# Every tag down to the notes (I:), the experimental (X:) and the pedantic ones (P:) is shown, and
+# the overridden ones (O:) without their reason, which is written once in the override file; an
+# error (E:) or a warning (W:) fails.
+lintian_salida=$(lintian --display-info --display-experimental --pedantic --show-overrides "$deb" 2>&1 |
+                 grep -vE '^(N:|running with root privileges)' || true)
+echo "lintian:"
+echo "${lintian_salida:-  (nada)}" | sed 's/^/  /'
+if grep -qE '^[EW]: ' <<<"$lintian_salida"; then
+  falla "lintian da errores o avisos sobre el paquete: $(grep -E '^[EW]: ' <<<"$lintian_salida" | paste -sd' ')"
 fi
 
 echo "Paquete: $(basename "$deb"), $(stat -c %s "$deb") bytes; instalado: $(du -sk "$usr" | cut -f1) KiB"
