@@ -55,30 +55,36 @@ for _ in $(seq 100); do xprop -root _NET_SUPPORTING_WM_CHECK 2>/dev/null | grep 
 
 "$programa" >"$temporal/programa.txt" 2>&1 &
 pids+=($!)
-titulo='VELMORA - Programa para el cálculo del refuerzo TEXALON®'
-ventana=
-for _ in $(seq 200); do
-  ventana=$(xdotool search --onlyvisible --name "^${titulo}\$" 2>/dev/null | head -n1 || true)
-  [ -n "$ventana" ] && break
-  sleep 0.1
-done
-[ -n "$ventana" ] || { cat "$temporal/programa.txt" >&2; echo "FALLO: la ventana principal no aparece" >&2; exit 1; }
-# The window manager has framed the window when it tells the frame's extents.
-for _ in $(seq 100); do xprop -id "$ventana" _NET_FRAME_EXTENTS 2>/dev/null | grep -q '=' && break; sleep 0.1; done
-
-# "X Y ANCHO ALTO" of the window's inside, on the screen.
+# busca_ventana TÍTULO: the id of the window on show with that title, once the window manager
+# has framed it (it tells then the frame's extents); nothing after 20 seconds without it.
+busca_ventana() {
+  local id=
+  for _ in $(seq 200); do
+    id=$(xdotool search --onlyvisible --name "^$1\$" 2>/dev/null | head -n1 || true)
+    [ -n "$id" ] && break
+    sleep 0.1
+  done
+  [ -n "$id" ] || return 0
+  for _ in $(seq 100); do xprop -id "$id" _NET_FRAME_EXTENTS 2>/dev/null | grep -q '=' && break; sleep 0.1; done
+  echo "$id"
+}
+# geometria ID: "X Y ANCHO ALTO" of the window's inside, on the screen.
 geometria() {
-  xwininfo -id "$ventana" | awk '
+  xwininfo -id "$1" | awk '
     /Absolute upper-left X/ {x=$NF} /Absolute upper-left Y/ {y=$NF}
     /^ *Width:/ {w=$NF} /^ *Height:/ {h=$NF}
     END {print x, y, w, h}'
 }
+
+ventana=$(busca_ventana 'VELMORA - Programa para el cálculo del refuerzo TEXALON®')
+[ -n "$ventana" ] || { cat "$temporal/programa.txt" >&2; echo "FALLO: la ventana principal no aparece" >&2; exit 1; }
+
 # Waits for the window to settle: the same geometry twice, a fifth of a second apart.
 asentada() {
   local anterior= actual
   for _ in $(seq 50); do
     sleep 0.2
-    actual=$(geometria)
+    actual=$(geometria "$ventana")
     [ "$actual" = "$anterior" ] && break
     anterior=$actual
   done
@@ -117,21 +123,12 @@ comprueba "tras arrastrar el borde izquierdo"
 xdotool mousemove "$((x0 + 400))" "$((y0 + 300))" click 1
 sleep 0.5
 xdotool key F1
-ayuda=
-for _ in $(seq 100); do
-  ayuda=$(xdotool search --onlyvisible --name '^Ayuda de TEXALON$' 2>/dev/null | head -n1 || true)
-  [ -n "$ayuda" ] && break
-  sleep 0.1
-done
+ayuda=$(busca_ventana 'Ayuda de TEXALON')
 if [ -z "$ayuda" ]; then
   falla "F1 no abre la ventana de ayuda"
 else
-  for _ in $(seq 50); do xprop -id "$ayuda" _NET_FRAME_EXTENTS 2>/dev/null | grep -q '=' && break; sleep 0.1; done
   sleep 0.5
-  read -r ax ay aancho aalto <<<"$(xwininfo -id "$ayuda" | awk '
-    /Absolute upper-left X/ {x=$NF} /Absolute upper-left Y/ {y=$NF}
-    /^ *Width:/ {w=$NF} /^ *Height:/ {h=$NF}
-    END {print x, y, w, h}')"
+  read -r ax ay aancho aalto <<<"$(geometria "$ayuda")"
   read -r bi bd ba bb <<<"$(xprop -id "$ayuda" _NET_FRAME_EXTENTS | sed 's/.*= //; s/,//g')"
   read -r pancho palto <<<"$(xwininfo -root | awk '/^ *Width:/ {w=$NF} /^ *Height:/ {h=$NF} END {print w, h}')"
   echo "La ayuda: ${aancho} x ${aalto} por dentro, en ${ax},${ay}, marco ${bi} ${bd} ${ba} ${bb}"
