@@ -183,22 +183,19 @@ std::string ObjetoLista(const ListaDiagrama& lista)
 std::string CadenaJson(std::string_view texto)
 {
     std::string cadena = "\"";
-    for (std::size_t i = 0; i < texto.size();) {
-        const char c = texto[i];
-        const std::size_t largo = CaracterUtf8(texto.substr(i));
-        if (largo == 0) {
+    RecorreUtf8(texto, [&cadena](std::string_view caracter) {
+        if (caracter.empty()) {
             cadena += "\\ufffd";
-            ++i;
-            continue;
+            return;
         }
+        const char c = caracter.front();
         if (c == '"' || c == '\\')
             cadena += std::string{'\\', c};
         else if (static_cast<unsigned char>(c) < 0x20)
             cadena += EscapeControl(c);
         else
-            cadena.append(texto.substr(i, largo));
-        i += largo;
-    }
+            cadena += caracter;
+    });
     return cadena + '"';
 }
 

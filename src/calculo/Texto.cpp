@@ -37,21 +37,17 @@ std::size_t CaracterUtf8(std::string_view texto)
     return largo;
 }
 
+namespace {
+
+constexpr std::string_view kSustituto = "\xEF\xBF\xBD";  // U+FFFD
+
+}  // namespace
+
 std::string Utf8Valido(std::string_view texto)
 {
-    constexpr std::string_view kSustituto = "\xEF\xBF\xBD";  // U+FFFD
     std::string valido;
     valido.reserve(texto.size());
-    for (std::size_t i = 0; i < texto.size();) {
-        const std::size_t largo = CaracterUtf8(texto.substr(i));
-        if (largo == 0) {
-            valido += kSustituto;
-            ++i;
-        } else {
-            valido += texto.substr(i, largo);
-            i += largo;
-        }
-    }
+    RecorreUtf8(texto, [&valido](std::string_view caracter) { valido += caracter.empty() ? kSustituto : caracter; });
     return valido;
 }
 

@@ -32,6 +32,18 @@ std::string Unidos(const std::vector<std::string>& mensajes);
 // overlong forms, surrogates and code points above U+10FFFF are not well formed.
 std::size_t CaracterUtf8(std::string_view texto);
 
+// Calls `caracter` with each well-formed UTF-8 character of the text in turn, and with an empty
+// view for each byte that is no part of one.
+template <typename Funcion>
+void RecorreUtf8(std::string_view texto, Funcion caracter)
+{
+    for (std::size_t i = 0; i < texto.size();) {
+        const std::size_t largo = CaracterUtf8(texto.substr(i));
+        caracter(texto.substr(i, largo));
+        i += largo == 0 ? 1 : largo;
+    }
+}
+
 // The text with each byte that is no part of a well-formed UTF-8 character replaced by U+FFFD,
 // so that what the command writes as UTF-8 is UTF-8 whatever the names it was given.
 std::string Utf8Valido(std::string_view texto);

@@ -423,9 +423,9 @@ void MdiPrincipal::dropEvent(QDropEvent* evento)
 
 void MdiPrincipal::moveEvent(QMoveEvent* evento)
 {
-    // Where the window's inside stands at its own size is where a spring-back puts it again
-    // (the frame may come or change in between): a
-    // maximise or a drag of the left or top border moves it before the size comes back.
+    // Where the window's inside stands at its own size is where a spring-back puts it again:
+    // a maximise or a drag of the left or top border moves it before the size comes back, and
+    // the frame may come or change in between.
     QMainWindow::moveEvent(evento);
     const bool normal = !(windowState() & (Qt::WindowMaximized | Qt::WindowFullScreen | Qt::WindowMinimized));
     if (!ajustando_ && normal && size() == QSize(kAncho, kAlto)) posicion_ = geometry().topLeft();
