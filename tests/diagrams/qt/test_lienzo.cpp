@@ -24,6 +24,7 @@
 #include <QTest>
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <memory>
 #include <optional>
@@ -59,6 +60,15 @@ QSizeF Medida(const QString& texto, double tamano, bool negrita)
 }
 
 int Escala(double valor) { return static_cast<int>(std::lround(valor)); }
+
+// The six counters of the drawing state, in the order of kClasesPantalla: NLINEA, NPUNTO,
+// NTIT, NBARRA, NSECRECT, NSECCIR.
+using Contadores = std::array<Entero, 6>;
+Contadores ContadoresDelEstado()
+{
+    const GeneralDibujo& d = EstadoDibujo();
+    return {d.NLINEA, d.NPUNTO, d.NTIT, d.NBARRA, d.NSECRECT, d.NSECCIR};
+}
 
 // The list on which the zoom is tried, on a picture of 400 by 300 pixels. Its box runs from
 // (0, 0) to (10, 10): ESCALAX 32, ESCALAY 24, world (0, 10) at pixel (40, 30) and (10, 0) at
@@ -589,12 +599,7 @@ private slots:
         ++D().NLISTA;
         D().LISTA(D().NLISTA, campo::kClase) = 9;
         lienzo.Escena().DibujaLista(D(), 0);
-        QCOMPARE(D().NLINEA, Entero{2});
-        QCOMPARE(D().NPUNTO, Entero{1});
-        QCOMPARE(D().NTIT, Entero{3});
-        QCOMPARE(D().NBARRA, Entero{1});
-        QCOMPARE(D().NSECRECT, Entero{1});
-        QCOMPARE(D().NSECCIR, Entero{2});
+        QCOMPARE(ContadoresDelEstado(), (Contadores{2, 1, 3, 1, 1, 2}));
         QCOMPARE(De(ClasePantalla::Linea).size(), std::size_t{2});
         QCOMPARE(De(ClasePantalla::Tit).size(), std::size_t{3});
         QCOMPARE(De(ClasePantalla::SecCir).size(), std::size_t{2});
@@ -658,12 +663,7 @@ private slots:
         QCOMPARE(QSet<QGraphicsItem*>(despues.begin(), despues.end()),
                  QSet<QGraphicsItem*>(antes.begin(), antes.end()));
         ListaDeZoomSinAmpliar();
-        QCOMPARE(D().NLINEA, Entero{1});
-        QCOMPARE(D().NTIT, Entero{1});
-        QCOMPARE(D().NBARRA, Entero{1});
-        QCOMPARE(D().NPUNTO, Entero{1});
-        QCOMPARE(D().NSECRECT, Entero{1});
-        QCOMPARE(D().NSECCIR, Entero{1});
+        QCOMPARE(ContadoresDelEstado(), (Contadores{1, 1, 1, 1, 1, 1}));
         CERCA(D().ESCALAX, 32);
         CERCA(D().ESCALAY, 24);
     }
@@ -677,12 +677,7 @@ private slots:
         D().ALTOPIC = 300;
         lienzo.Escena().RedibujaLista(D(), 0);
         QVERIFY(lienzo.scene()->items().isEmpty());
-        QCOMPARE(D().NLINEA, Entero{0});
-        QCOMPARE(D().NTIT, Entero{0});
-        QCOMPARE(D().NBARRA, Entero{0});
-        QCOMPARE(D().NPUNTO, Entero{0});
-        QCOMPARE(D().NSECRECT, Entero{0});
-        QCOMPARE(D().NSECCIR, Entero{0});
+        QCOMPARE(ContadoresDelEstado(), (Contadores{0, 0, 0, 0, 0, 0}));
     }
 
     void RedibujaListaMasLargaQueLoDibujadoSoloAjustaLoQueExiste()
