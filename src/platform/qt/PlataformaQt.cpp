@@ -3,6 +3,8 @@
 #include "platform/Dialogos.h"
 #ifdef _WIN32
 #include "platform/EscritorioRegistro.h"
+#include "platform/CorreoMapi.h"
+#include "platform/win/MapiWindows.h"
 #include "platform/win/RegistroWindows.h"
 #endif
 #include "platform/qt/ImpresoraQt.h"
@@ -265,14 +267,18 @@ void InstalaQt()
     static ProcesoQt proceso;
     static ImpresorasQt impresoras;
     static AyudaQt ayuda;
-    static CorreoQt correo;
 #ifdef _WIN32
-    // Windows keeps the viewer and the browser in its registry.
+    // Windows keeps the viewer and the browser in its registry, and offers mail through
+    // Simple MAPI; the mailto: handler stands in where no mail service answers.
     static ApiRegistroWindows registro;
     static ArrancadorWindows arrancador;
     static EscritorioRegistro escritorio(registro, arrancador);
+    static ApiMapiWindows mapi;
+    static CorreoQt correoMailto;
+    static CorreoMapi correo(mapi, correoMailto);
 #else
     static EscritorioQt escritorio;
+    static CorreoQt correo;
 #endif
     Instala({&mensajes, &ficheros, &ventanas, &monitor, &regional, &proceso, &impresoras, &ayuda, &escritorio,
              &correo});
