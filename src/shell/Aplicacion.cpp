@@ -1,6 +1,7 @@
 #include "shell/Aplicacion.h"
 
 #include "platform/Plataforma.h"
+#include "platform/qt/Fuentes.h"
 #include "shell/Estilo.h"
 
 #include <QFont>
@@ -40,7 +41,7 @@ void PreparaAplicacion(QApplication& aplicacion)
     QApplication::setStyle(new EstiloTexalon);
     QFont letra(QStringLiteral("Arial"));
     letra.setPointSizeF(9.0);
-    QApplication::setFont(letra);
+    QApplication::setFont(plataforma::ConAnchoPropio(letra));
     QApplication::setApplicationName(QStringLiteral("TEXALON"));
     QApplication::setOrganizationName(QStringLiteral("VELMORA"));
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/imagenes/aplicacion.svg")));

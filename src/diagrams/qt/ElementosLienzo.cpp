@@ -1,5 +1,6 @@
 #include "diagrams/qt/ElementosLienzo.h"
 
+#include "platform/qt/Fuentes.h"
 #include "state/General.h"
 
 #include <QFontMetricsF>
@@ -45,7 +46,7 @@ QFont FuenteA(double tamano, bool negrita)
     QFont fuente(QString::fromLatin1(Rotulo::kFuente));
     fuente.setPointSizeF(tamano);
     fuente.setBold(negrita);
-    return fuente;
+    return plataforma::ConAnchoPropio(fuente);
 }
 
 }  // namespace

@@ -1,6 +1,7 @@
 #include "platform/qt/ImpresoraQt.h"
 
 #include "platform/Plataforma.h"
+#include "platform/qt/Fuentes.h"
 #include "platform/qt/PlataformaQt.h"
 #include "state/ErrorEjecucion.h"
 
@@ -132,6 +133,7 @@ ImpresoraQt::ImpresoraQt(Destino destino, QString nombre)
     : destino_(destino), nombre_(std::move(nombre)), fuente_(QString::fromLatin1(kFuenteInicial))
 {
     fuente_.setPointSizeF(kTamanoInicial);
+    fuente_ = ConAnchoPropio(fuente_);
     RegistraImagenes();  // the logos of the reports
 }
 

@@ -6,6 +6,7 @@
 #include "diagrams/qt/EscenaDibujo.h"
 #include "diagrams/qt/Lienzo.h"
 #include "diagrams/qt/Svg.h"
+#include "platform/qt/Fuentes.h"
 #include "state/General.h"
 
 #include <QFile>
@@ -55,7 +56,7 @@ QSizeF Medida(const QString& texto, double tamano, bool negrita)
     QFont fuente(QStringLiteral("Arial"));
     fuente.setPointSizeF(tamano);
     fuente.setBold(negrita);
-    const QFontMetricsF metrica(fuente);
+    const QFontMetricsF metrica(plataforma::ConAnchoPropio(fuente));
     return {metrica.horizontalAdvance(texto), metrica.height()};
 }
 
