@@ -7,6 +7,7 @@
 #include "calculo/SalidaJson.h"
 #include "calculo/SalidaTexto.h"
 #include "calculo/Texto.h"
+#include "state/Rutas.h"
 
 #include <algorithm>
 #include <array>
@@ -146,7 +147,7 @@ void EscribeErrorDeUso(const std::string& error, std::ostream& errores)
 // CARPETA/<the file's name without its extension>.pdf
 std::string FicheroInforme(const std::string& carpeta, const std::string& fichero)
 {
-    return (std::filesystem::path(carpeta) / (std::filesystem::path(fichero).stem().string() + ".pdf")).string();
+    return TextoUtf8(RutaUtf8(carpeta) / (TextoUtf8(RutaUtf8(fichero).stem()) + ".pdf"));
 }
 
 // The report of a calculated file, as Print makes it for the cell of --tipo and --capas. The
@@ -156,7 +157,7 @@ void GuardaInforme(CalculoFichero& calculo, const Orden& orden, char separador, 
     if (!orden.carpetaInforme || !calculo.Correcto()) return;
     const std::string destino = FicheroInforme(*orden.carpetaInforme, calculo.fichero);
     std::error_code fallo;
-    std::filesystem::create_directories(*orden.carpetaInforme, fallo);
+    std::filesystem::create_directories(RutaUtf8(*orden.carpetaInforme), fallo);
     if (fallo) {
         calculo.errores.push_back("no se ha podido crear la carpeta «" + *orden.carpetaInforme + "» del informe.");
         return;
@@ -171,8 +172,8 @@ void GuardaInforme(CalculoFichero& calculo, const Orden& orden, char separador, 
 std::string FicheroSvg(const std::string& carpeta, const std::string& fichero, Diagrama diagrama)
 {
     const std::string nombre =
-        std::filesystem::path(fichero).stem().string() + "-" + std::string(NombreDiagrama(diagrama)) + ".svg";
-    return (std::filesystem::path(carpeta) / nombre).string();
+        TextoUtf8(RutaUtf8(fichero).stem()) + "-" + std::string(NombreDiagrama(diagrama)) + ".svg";
+    return TextoUtf8(RutaUtf8(carpeta) / nombre);
 }
 
 // The folder is made when it is missing; a file that cannot be written is a failure of the file.
@@ -180,7 +181,7 @@ bool GuardaSvg(CalculoFichero& calculo, ListaDiagrama& lista, const Orden& orden
 {
     const std::string destino = FicheroSvg(*orden.carpetaSvg, calculo.fichero, *orden.diagrama);
     std::error_code sinExcepcion;
-    std::filesystem::create_directories(*orden.carpetaSvg, sinExcepcion);
+    std::filesystem::create_directories(RutaUtf8(*orden.carpetaSvg), sinExcepcion);
     if (escritorSvg && escritorSvg(lista.d, *lista.dibujo, lista.isotropico, destino)) return true;
     calculo.errores.push_back("no se ha podido escribir el diagrama en «" + destino + "».");
     return false;

@@ -1,6 +1,7 @@
 // texalon-calculo: calculates TEXALON project files from the command line.
 #include "calculo/Calculo.h"
 #include "diagrams/qt/Svg.h"
+#include "platform/Consola.h"
 #include "platform/qt/ImpresoraQt.h"
 
 #include <QApplication>
@@ -63,8 +64,8 @@ private:
 
 int main(int argc, char* argv[])
 {
-    // argv[0] is the program's own name, when the system gives one.
-    const std::vector<std::string> argumentos(argc > 0 ? argv + 1 : argv, argv + argc);
+    texalon::plataforma::PreparaConsola();
+    const std::vector<std::string> argumentos = texalon::plataforma::ArgumentosUtf8(argc, argv);
     const char separador = SeparadorDelSistema();
     Aplicacion aplicacion;
     texalon::calculo::Dispositivos dispositivos;

@@ -4,6 +4,7 @@
 
 #include "state/Decimales.h"
 #include "state/ErrorEjecucion.h"
+#include "state/Rutas.h"
 
 #include <cerrno>
 #include <charconv>
@@ -11,6 +12,7 @@
 #include <cstdio>
 #include <filesystem>
 #include <new>
+#include <string>
 #include <string_view>
 #include <system_error>
 
@@ -38,7 +40,10 @@ int NumeroDeErrorDelSistema(int codigo)
     switch (codigo) {
     case ENOMEM: return ErrorEjecucion::kMemoriaInsuficiente;
     case ENOSPC:
-    case EDQUOT: return ErrorEjecucion::kDiscoLleno;
+#ifdef EDQUOT  // a quota is a disk full as the user sees it; Windows has no such code
+    case EDQUOT:
+#endif
+        return ErrorEjecucion::kDiscoLleno;
     case EACCES:
     case EPERM:
     case EROFS: return ErrorEjecucion::kPermisoDenegado;
@@ -52,9 +57,13 @@ int NumeroDeErrorDelSistema(int codigo)
 // way to it; the user is told which of the two it is.
 int NumeroDeErrorAlAbrir(int codigo, const std::string& fichero)
 {
-    if (codigo != ENOENT) return NumeroDeErrorDelSistema(codigo);
-    const std::filesystem::path padre = std::filesystem::path(fichero).parent_path();
     std::error_code sin_excepcion;
+    // Windows refuses a folder opened as a file as it refuses a file without permission: it is
+    // told as the folder it is, as Linux tells it.
+    if (codigo == EACCES && std::filesystem::is_directory(RutaUtf8(fichero), sin_excepcion))
+        return ErrorEjecucion::kErrorDeAccesoRuta;
+    if (codigo != ENOENT) return NumeroDeErrorDelSistema(codigo);
+    const std::filesystem::path padre = RutaUtf8(fichero).parent_path();
     if (!padre.empty() && !std::filesystem::is_directory(padre, sin_excepcion))
         return ErrorEjecucion::kRutaNoEncontrada;
     return ErrorEjecucion::kArchivoNoEncontrado;
@@ -74,7 +83,12 @@ public:
         if (fichero.empty() || fichero.find('\0') != std::string::npos)
             throw ErrorEjecucion(ErrorEjecucion::kNombreDeArchivoIncorrecto);
         errno = 0;
+#ifdef _WIN32
+        const std::wstring modoAncho(modo, modo + std::char_traits<char>::length(modo));
+        fichero_ = ::_wfopen(RutaUtf8(fichero).c_str(), modoAncho.c_str());
+#else
         fichero_ = std::fopen(fichero.c_str(), modo);
+#endif
         if (fichero_ == nullptr) throw ErrorEjecucion(NumeroDeErrorAlAbrir(errno, fichero));
     }
     Canal(const Canal&) = delete;
