@@ -13,6 +13,13 @@ PAQUETES=(
   xvfb openbox xdotool x11-utils
 )
 
+# What ./windows.sh needs beside them: the MinGW-w64 cross compilers, Wine to run the tests and
+# the installer, NSIS to make the installer, Ninja for Qt's build, ImageMagick for the
+# installer test's screenshot.
+PAQUETES_WINDOWS=(
+  g++-mingw-w64-x86-64-posix mingw-w64 wine wine64 nsis ninja-build dpkg-dev imagemagick
+)
+
 # Regional settings the tests run under: Spanish (comma) and English (period).
 AJUSTES_REGIONALES=(es_ES.UTF-8 en_US.UTF-8)
 
