@@ -20,6 +20,7 @@ import tempfile
 CABECERA = ["fichero", "tipo", "refuerzo", "capas", "resultado", "alcanza", "error"]
 BOM = b"\xef\xbb\xbf"
 CAPAS = 5
+WINDOWS = False
 
 fallos = []
 
@@ -71,6 +72,9 @@ def fuera_de_comillas_solo_crlf(texto):
 
 def main():
     programa, datos, decimal = sys.argv[1], sys.argv[2], sys.argv[3]
+    # The Windows build: a file name there cannot hold a double quote.
+    global WINDOWS
+    WINDOWS = len(sys.argv) > 4 and sys.argv[4] == "windows"
     separador = ";" if decimal == "," else ","
     otro = "," if separador == ";" else ";"
     carpeta = tempfile.mkdtemp(prefix="texalon_csv_")
@@ -95,9 +99,10 @@ def comprueba_en(programa, datos, decimal, separador, otro, carpeta):
         copia(datos, carpeta, "confinamiento.vmc", "confinamiento.vmc"): "confinamiento",
         copia(datos, carpeta, "viga_md250.vmf", "viga_md250.vmf"): "rectangular",
         copia(datos, carpeta, "rectangular.vmf", "viga" + separador + "1.vmf"): "rectangular",
-        copia(datos, carpeta, "rectangular.vmf", 'viga "2".vmf'): "rectangular",
         copia(datos, carpeta, "rectangular.vmf", "viga" + otro + "3.vmf"): "rectangular",
     }
+    if not WINDOWS:
+        buenos[copia(datos, carpeta, "rectangular.vmf", 'viga "2".vmf')] = "rectangular"
     # A flexure file cut short, which cannot be read, and a confinement file that is not there.
     roto = os.path.join(carpeta, "roto.vmf")
     with open(roto, "wb") as f:
@@ -179,7 +184,7 @@ def comprueba_en(programa, datos, decimal, separador, otro, carpeta):
     sin_citar = os.path.join(carpeta, "viga" + otro + "3.vmf")
     comprueba(("\r\n" + cita(con_separador) + separador + "rectangular" + separador) in texto,
               "el nombre con el separador no va entre comillas")
-    comprueba(("\r\n" + cita(con_comillas) + separador + "rectangular" + separador) in texto,
+    comprueba(WINDOWS or ("\r\n" + cita(con_comillas) + separador + "rectangular" + separador) in texto,
               "el nombre con comillas no las lleva dobladas entre comillas")
     comprueba(("\r\n" + sin_citar + separador + "rectangular" + separador + "TEXALON L" + separador) in texto,
               "el nombre sin nada que citar va entre comillas")

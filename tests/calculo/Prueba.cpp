@@ -56,7 +56,7 @@ std::string DirectorioTemporal::Escribe(const std::string& nombre, std::string_v
     return fichero;
 }
 
-std::string DirectorioTemporal::Fichero(const std::string& nombre) const { return (ruta_ / nombre).string(); }
+std::string DirectorioTemporal::Fichero(const std::string& nombre) const { return (ruta_ / nombre).generic_string(); }
 
 Ejecucion EjecutaCalculo(const std::vector<std::string>& argumentos, char separador,
                          const calculo::Dispositivos& dispositivos)

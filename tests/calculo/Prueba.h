@@ -31,7 +31,9 @@ public:
     DirectorioTemporal(const DirectorioTemporal&) = delete;
     DirectorioTemporal& operator=(const DirectorioTemporal&) = delete;
 
-    const std::filesystem::path& Ruta() const { return ruta_; }
+    // The directory's full name, its folders joined by '/' on every system as the command
+    // names them in its messages.
+    std::string Ruta() const { return ruta_.generic_string(); }
     // Writes the bytes as a file of the directory and gives its full name.
     std::string Escribe(const std::string& nombre, std::string_view bytes) const;
     // The full name of a file of the directory that is not written.

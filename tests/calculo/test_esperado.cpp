@@ -35,7 +35,7 @@ void ComparaSalida(const Caso& caso, bool json)
     const Ejecucion ejecucion = EjecutaCalculo(argumentos, ',');
     EXPECT_EQ(ejecucion.estado, 0);
     EXPECT_EQ(ejecucion.errores, "");
-    const std::string salida = Sustituye(ejecucion.salida, directorio.Ruta().string(), "TMP");
+    const std::string salida = Sustituye(ejecucion.salida, directorio.Ruta(), "TMP");
     ComparaConEsperado(salida, std::string(caso.nombre) + (json ? ".json" : ".txt"));
 }
 
@@ -92,7 +92,7 @@ TEST_P(EsperadoDiagrama, Json)
     const Ejecucion ejecucion = EjecutaCalculo({"--json", "--diagrama", std::string(caso.diagrama), fichero}, caso.separador);
     EXPECT_EQ(ejecucion.estado, 0);
     EXPECT_EQ(ejecucion.errores, "");
-    const std::string salida = Sustituye(ejecucion.salida, directorio.Ruta().string(), "TMP");
+    const std::string salida = Sustituye(ejecucion.salida, directorio.Ruta(), "TMP");
     ComparaConEsperado(salida, caso.Esperado() + ".json");
 }
 

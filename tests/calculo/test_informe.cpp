@@ -71,14 +71,14 @@ TEST(InformeCalculo, CadaFicheroEnLaCarpetaConSuNombre)
     DirectorioTemporal directorio;
     const std::string viga = directorio.Escribe("viga.vmf", kFlexionRectangularMd250);
     const std::string pilar = directorio.Escribe("pilar.VMC", kConfinamiento);
-    const std::string carpeta = (directorio.Ruta() / "informes").string();
+    const std::string carpeta = directorio.Fichero("informes");
     ImpresorasDePrueba impresoras;
     const Ejecucion ejecucion = EjecutaCalculo({"--informe", carpeta, viga, pilar}, ',', impresoras.Dispositivos());
     EXPECT_EQ(ejecucion.estado, 0);
     EXPECT_EQ(ejecucion.errores, "");
     ASSERT_EQ(impresoras.ficheros.size(), 2u);
-    EXPECT_EQ(impresoras.ficheros[0], (std::filesystem::path(carpeta) / "viga.pdf").string());
-    EXPECT_EQ(impresoras.ficheros[1], (std::filesystem::path(carpeta) / "pilar.pdf").string());
+    EXPECT_EQ(impresoras.ficheros[0], carpeta + "/viga.pdf");
+    EXPECT_EQ(impresoras.ficheros[1], carpeta + "/pilar.pdf");
     // The folder is made when it is missing.
     EXPECT_TRUE(std::filesystem::is_directory(carpeta));
     ASSERT_EQ(impresoras.impresoras.size(), 2u);
@@ -96,7 +96,7 @@ TEST(InformeCalculo, EsElInformeDeImprimirParaLaCeldaElegida)
     const std::string viga = directorio.Escribe("viga.vmf", kFlexionRectangularMd250);
     ImpresorasDePrueba impresoras;
     const Ejecucion ejecucion = EjecutaCalculo(
-        {"--informe", directorio.Ruta().string(), "--tipo", "2", "--capas", "4", viga}, '.', impresoras.Dispositivos());
+        {"--informe", directorio.Ruta(), "--tipo", "2", "--capas", "4", viga}, '.', impresoras.Dispositivos());
     ASSERT_EQ(ejecucion.estado, 0);
     ASSERT_EQ(impresoras.impresoras.size(), 1u);
 
@@ -118,7 +118,7 @@ TEST(InformeCalculo, LaSeccionEnTTieneSuInforme)
     DirectorioTemporal directorio;
     const std::string vigaT = directorio.Escribe("viga_t.vmf", kFlexionT);
     ImpresorasDePrueba impresoras;
-    EXPECT_EQ(EjecutaCalculo({"--informe", directorio.Ruta().string(), vigaT}, ',', impresoras.Dispositivos()).estado, 0);
+    EXPECT_EQ(EjecutaCalculo({"--informe", directorio.Ruta(), vigaT}, ',', impresoras.Dispositivos()).estado, 0);
     ASSERT_EQ(impresoras.impresoras.size(), 1u);
     EXPECT_TRUE(Imprimio(impresoras.impresoras[0], "REFUERZO A FLEXION EN SECCIONES EN T"));
 }
@@ -129,7 +129,7 @@ TEST(InformeCalculo, SinRefuerzoNecesarioUnaPaginaConLaFrase)
     DirectorioTemporal directorio;
     const std::string viga = directorio.Escribe("viga.vmf", kFlexionRectangular);
     ImpresorasDePrueba impresoras;
-    EXPECT_EQ(EjecutaCalculo({"--informe", directorio.Ruta().string(), viga}, ',', impresoras.Dispositivos()).estado, 0);
+    EXPECT_EQ(EjecutaCalculo({"--informe", directorio.Ruta(), viga}, ',', impresoras.Dispositivos()).estado, 0);
     ASSERT_EQ(impresoras.impresoras.size(), 1u);
     EXPECT_TRUE(Imprimio(impresoras.impresoras[0], " NO ES NECESARIO REFORZAR LA SECCION "));
     EXPECT_EQ(Cuenta(impresoras.impresoras[0], "NewPage"), 0);
@@ -143,7 +143,7 @@ TEST(InformeCalculo, UnaCeldaSinResultadoDaElMensajeDelInformeYNadaImpreso)
     ImpresorasDePrueba impresoras;
     // TEXALON X gains nothing from the third layer on.
     const Ejecucion ejecucion = EjecutaCalculo(
-        {"--informe", directorio.Ruta().string(), "--tipo", "3", "--capas", "3", viga, pilar}, ',',
+        {"--informe", directorio.Ruta(), "--tipo", "3", "--capas", "3", viga, pilar}, ',',
         impresoras.Dispositivos());
     EXPECT_EQ(ejecucion.estado, 1);
     EXPECT_EQ(ejecucion.errores, viga + ": " + std::string(kMensajeCeldaRechazada) + "\n");
@@ -160,9 +160,9 @@ void CompruebaQueElInformeNoSeEscribe(ImpresorasDePrueba& impresoras)
     DirectorioTemporal directorio;
     const std::string viga = directorio.Escribe("viga.vmf", kFlexionRectangularMd250);
     const Ejecucion ejecucion =
-        EjecutaCalculo({"--informe", directorio.Ruta().string(), viga}, ',', impresoras.Dispositivos());
+        EjecutaCalculo({"--informe", directorio.Ruta(), viga}, ',', impresoras.Dispositivos());
     EXPECT_EQ(ejecucion.estado, 1);
-    const std::string destino = (directorio.Ruta() / "viga.pdf").string();
+    const std::string destino = directorio.Fichero("viga.pdf");
     EXPECT_EQ(ejecucion.errores, viga + ": no se ha podido escribir el informe en «" + destino + "».\n");
 }
 
@@ -189,7 +189,7 @@ TEST(InformeCalculo, UnaCarpetaQueNoSePuedeCrearSeNombra)
     DirectorioTemporal directorio;
     const std::string viga = directorio.Escribe("viga.vmf", kFlexionRectangularMd250);
     // A folder inside a file.
-    const std::string carpeta = (directorio.Ruta() / "viga.vmf" / "informes").string();
+    const std::string carpeta = directorio.Fichero("viga.vmf/informes");
     ImpresorasDePrueba impresoras;
     const Ejecucion ejecucion = EjecutaCalculo({"--informe", carpeta, viga}, ',', impresoras.Dispositivos());
     EXPECT_EQ(ejecucion.estado, 1);
@@ -202,7 +202,7 @@ TEST(InformeCalculo, UnFicheroQueFallaNoTieneInforme)
     DirectorioTemporal directorio;
     ImpresorasDePrueba impresoras;
     const Ejecucion ejecucion = EjecutaCalculo(
-        {"--informe", directorio.Ruta().string(), directorio.Fichero("no_existe.vmf")}, ',', impresoras.Dispositivos());
+        {"--informe", directorio.Ruta(), directorio.Fichero("no_existe.vmf")}, ',', impresoras.Dispositivos());
     EXPECT_EQ(ejecucion.estado, 1);
     EXPECT_TRUE(impresoras.ficheros.empty());
 }

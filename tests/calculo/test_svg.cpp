@@ -62,10 +62,10 @@ TEST(SvgCalculo, CadaFicheroASuNombreConElDelDiagrama)
     EXPECT_EQ(ejecucion.estado, 0) << ejecucion.errores;
     EXPECT_EQ(ejecucion.errores, "");
     ASSERT_EQ(escritor.llamadas.size(), 2U);
-    EXPECT_EQ(escritor.llamadas[0].fichero, (std::filesystem::path(carpeta) / "viga-capas.svg").string());
+    EXPECT_EQ(escritor.llamadas[0].fichero, carpeta + "/viga-capas.svg");
     EXPECT_EQ(escritor.llamadas[0].dibujo, "PIC_FLEXION");
     EXPECT_EQ(escritor.llamadas[0].isotropico, 0);
-    EXPECT_EQ(escritor.llamadas[1].fichero, (std::filesystem::path(carpeta) / "viga_t-capas.svg").string());
+    EXPECT_EQ(escritor.llamadas[1].fichero, carpeta + "/viga_t-capas.svg");
     EXPECT_EQ(escritor.llamadas[1].dibujo, "PIC_FLEXION");
     // The folder was made, and the files are there.
     EXPECT_TRUE(std::filesystem::exists(escritor.llamadas[0].fichero));
@@ -80,7 +80,7 @@ TEST(SvgCalculo, LasSeccionesConservanSusProporciones)
     const std::string pilar = directorio.Escribe("pilar.vmc", kConfinamiento);
     EscritorDePrueba escritor;
     const Ejecucion ejecucion = EjecutaCalculo(
-        {"--diagrama", "seccion", "--svg", directorio.Ruta().string(), viga, vigaT, pilar}, ',', escritor.Dispositivos());
+        {"--diagrama", "seccion", "--svg", directorio.Ruta(), viga, vigaT, pilar}, ',', escritor.Dispositivos());
     EXPECT_EQ(ejecucion.estado, 0) << ejecucion.errores;
     ASSERT_EQ(escritor.llamadas.size(), 3U);
     EXPECT_EQ(escritor.llamadas[0].dibujo, "PIC_FLEXION");
@@ -97,7 +97,7 @@ TEST(SvgCalculo, ElDiagramaDeTensionVaEnElDibujoDeCaracteristicas)
     const std::string pilar = directorio.Escribe("pilar.vmc", kConfinamiento);
     EscritorDePrueba escritor;
     const Ejecucion ejecucion =
-        EjecutaCalculo({"--diagrama", "tension", "--svg", directorio.Ruta().string(), pilar}, ',', escritor.Dispositivos());
+        EjecutaCalculo({"--diagrama", "tension", "--svg", directorio.Ruta(), pilar}, ',', escritor.Dispositivos());
     EXPECT_EQ(ejecucion.estado, 0) << ejecucion.errores;
     ASSERT_EQ(escritor.llamadas.size(), 1U);
     EXPECT_EQ(escritor.llamadas[0].dibujo, "PIC_CARAC");
@@ -110,7 +110,7 @@ TEST(SvgCalculo, ConfinamientoYPivotesConSuDibujo)
     const std::string pilar = directorio.Escribe("pilar.vmc", kConfinamiento);
     const std::string viga = directorio.Escribe("viga.vmf", kFlexionRectangular);
     EscritorDePrueba confina;
-    EXPECT_EQ(EjecutaCalculo({"--diagrama", "confinamiento", "--svg", directorio.Ruta().string(), pilar}, ',',
+    EXPECT_EQ(EjecutaCalculo({"--diagrama", "confinamiento", "--svg", directorio.Ruta(), pilar}, ',',
                              confina.Dispositivos())
                   .estado,
               0);
@@ -119,7 +119,7 @@ TEST(SvgCalculo, ConfinamientoYPivotesConSuDibujo)
     EXPECT_EQ(confina.llamadas[0].isotropico, 0);
     EscritorDePrueba pivotes;
     EXPECT_EQ(
-        EjecutaCalculo({"--diagrama", "pivotes", "--svg", directorio.Ruta().string(), viga}, ',', pivotes.Dispositivos())
+        EjecutaCalculo({"--diagrama", "pivotes", "--svg", directorio.Ruta(), viga}, ',', pivotes.Dispositivos())
             .estado,
         0);
     ASSERT_EQ(pivotes.llamadas.size(), 1U);
@@ -132,7 +132,7 @@ TEST(SvgCalculo, ElNombreEsElDelFicheroSinSuExtension)
     DirectorioTemporal directorio;
     const std::string viga = directorio.Escribe("mi.viga.VMF", kFlexionRectangular);
     EscritorDePrueba escritor;
-    EjecutaCalculo({"--diagrama", "area", "--svg", directorio.Ruta().string(), viga}, ',', escritor.Dispositivos());
+    EjecutaCalculo({"--diagrama", "area", "--svg", directorio.Ruta(), viga}, ',', escritor.Dispositivos());
     ASSERT_EQ(escritor.llamadas.size(), 1U);
     EXPECT_EQ(escritor.llamadas[0].fichero, directorio.Fichero("mi.viga-area.svg"));
 }
@@ -143,7 +143,7 @@ TEST(SvgCalculo, ElSvgRecibeLaListaDelJson)
     const std::string viga = directorio.Escribe("viga.vmf", kFlexionRectangular);
     EscritorDePrueba escritor;
     const Ejecucion ejecucion = EjecutaCalculo(
-        {"--json", "--diagrama", "area", "--svg", directorio.Ruta().string(), viga}, '.', escritor.Dispositivos());
+        {"--json", "--diagrama", "area", "--svg", directorio.Ruta(), viga}, '.', escritor.Dispositivos());
     EXPECT_EQ(ejecucion.estado, 0);
     ASSERT_EQ(escritor.llamadas.size(), 1U);
     const ValorJson lista = LeeJson(ejecucion.salida)["lista"];
@@ -170,7 +170,7 @@ TEST(SvgCalculo, UnFicheroQueFallaNoSeEscribe)
     const std::string viga = directorio.Escribe("viga.vmf", kFlexionRectangular);
     EscritorDePrueba escritor;
     const Ejecucion ejecucion =
-        EjecutaCalculo({"--diagrama", "area", "--svg", directorio.Ruta().string(), pilar, "ausente.vmf", viga}, ',',
+        EjecutaCalculo({"--diagrama", "area", "--svg", directorio.Ruta(), pilar, "ausente.vmf", viga}, ',',
                        escritor.Dispositivos());
     EXPECT_EQ(ejecucion.estado, 1);
     ASSERT_EQ(escritor.llamadas.size(), 1U);
@@ -184,7 +184,7 @@ TEST(SvgCalculo, UnSvgQueNoSePuedeEscribirEsUnFallo)
     const std::string vigaT = directorio.Escribe("viga_t.vmf", kFlexionT);
     EscritorDePrueba escritor(false);
     const Ejecucion ejecucion = EjecutaCalculo(
-        {"--json", "--diagrama", "capas", "--svg", directorio.Ruta().string(), viga, vigaT}, ',', escritor.Dispositivos());
+        {"--json", "--diagrama", "capas", "--svg", directorio.Ruta(), viga, vigaT}, ',', escritor.Dispositivos());
     EXPECT_EQ(ejecucion.estado, 1);
     // Both files were tried: the first failure stops nothing.
     ASSERT_EQ(escritor.llamadas.size(), 2U);
@@ -201,7 +201,7 @@ TEST(SvgCalculo, SinEscritorNoSePuedeEscribir)
 {
     DirectorioTemporal directorio;
     const std::string viga = directorio.Escribe("viga.vmf", kFlexionRectangular);
-    const Ejecucion ejecucion = EjecutaCalculo({"--diagrama", "capas", "--svg", directorio.Ruta().string(), viga});
+    const Ejecucion ejecucion = EjecutaCalculo({"--diagrama", "capas", "--svg", directorio.Ruta(), viga});
     EXPECT_EQ(ejecucion.estado, 1);
     EXPECT_EQ(ejecucion.errores,
               viga + ": no se ha podido escribir el diagrama en «" + directorio.Fichero("viga-capas.svg") + "».\n");

@@ -19,8 +19,13 @@ struct PalabraPdf {
     double abajo = 0.0;
 };
 
-// Runs one of poppler's tools in the C locale and gives its output; empty if it failed.
+// Runs one of poppler's tools in the C locale and gives its output; empty if it failed. Under
+// Wine the tools are Debian's own, started by their Unix path, and the Windows paths of the
+// arguments are given to them as the Unix paths that Wine maps them to.
 QString EjecutaPoppler(const QString& programa, const QStringList& argumentos);
+
+// Whether poppler's tool is there to be run.
+bool HayPoppler(const QString& programa);
 
 // Every word of the file, page by page, its box measured from the page's top-left corner, or
 // from the corner of a margin of that width all round (a printer's printable area).

@@ -688,7 +688,7 @@ private slots:
     void initTestCase()
     {
         for (const char* herramienta : {"pdftotext", "pdfinfo"})
-            QVERIFY2(!QStandardPaths::findExecutable(QString::fromLatin1(herramienta)).isEmpty(), herramienta);
+            QVERIFY2(prueba::HayPoppler(QString::fromLatin1(herramienta)), herramienta);
     }
 
     void cleanup()
