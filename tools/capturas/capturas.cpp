@@ -19,6 +19,7 @@
 #include <QRadioButton>
 #include <QScreen>
 #include <QTest>
+#include <QTimer>
 
 #include <cstdio>
 
@@ -145,6 +146,13 @@ void Recorre(MdiPrincipal& p)
     prueba::Pulsa(qobject_cast<QRadioButton*>(C(p, "OP_TX")));
     Captura("caracteristicas");
     Imprime(p);
+
+    // Principal → Configurar impresora: the printer dialog, taken while it is up.
+    QTimer::singleShot(1200, [] {
+        Captura("impresora");
+        if (QWidget* dialogo = QApplication::activeModalWidget()) dialogo->close();
+    });
+    p.ConfigurarImpresora();
 
     // F1 on the rectangular section: the help window on its topic.
     Abre(p, &MdiPrincipal::NuevaFlexion);
