@@ -38,7 +38,7 @@ echo "== Construcción para Windows =="
 inicio=$(date +%s)
 cmake -S . -B build-windows -G Ninja \
   -DCMAKE_TOOLCHAIN_FILE="$PWD/cmake/mingw-w64.cmake" \
-  -DCMAKE_BUILD_TYPE=Release -DTEXALON_WERROR=ON \
+  -DCMAKE_BUILD_TYPE=Release -DTEXALON_WERROR=ON -DTEXALON_CAPTURAS=OFF \
   -DCMAKE_PREFIX_PATH="$TEXALON_QT_WINDOWS" -DTEXALON_QT_WINDOWS="$TEXALON_QT_WINDOWS" \
   -DQT_HOST_PATH=/usr -DQT_HOST_PATH_CMAKE_DIR="/usr/lib/$(dpkg-architecture -qDEB_HOST_MULTIARCH)/cmake" \
   -DTEXALON_GUIA_EXTERNA="$PWD/build/src/shell/guia_texalon.pdf" \
