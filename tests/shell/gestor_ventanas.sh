@@ -55,11 +55,12 @@ for _ in $(seq 100); do xprop -root _NET_SUPPORTING_WM_CHECK 2>/dev/null | grep 
 
 "$programa" >"$temporal/programa.txt" 2>&1 &
 pids+=($!)
-# busca_ventana TÍTULO: the id of the window on show with that title, once the window manager
-# has framed it (it tells then the frame's extents); nothing after 20 seconds without it.
+# busca_ventana TÍTULO [DÉCIMAS]: the id of the window on show with that title, once the window
+# manager has framed it (it tells then the frame's extents); nothing after 20 seconds (or that
+# many tenths of a second) without it.
 busca_ventana() {
   local id=
-  for _ in $(seq 200); do
+  for _ in $(seq "${2:-200}"); do
     id=$(xdotool search --onlyvisible --name "^$1\$" 2>/dev/null | head -n1 || true)
     [ -n "$id" ] && break
     sleep 0.1
@@ -120,10 +121,18 @@ xdotool mousemove "$((x0 - 1))" "$((y0 + 300))" mousedown 1 mousemove "$((x0 - 1
 comprueba "tras arrastrar el borde izquierdo"
 
 # F1 on the main window: the help comes up wholly on the screen, and Escape closes it.
+# On a loaded machine the click that gives the window the focus may come before the window
+# manager has done with the drags above, and F1 then goes to no window of the program: the
+# window is activated and the key pressed again, three times at most.
 xdotool mousemove "$((x0 + 400))" "$((y0 + 300))" click 1
-sleep 0.5
-xdotool key F1
-ayuda=$(busca_ventana 'Ayuda de TEXALON')
+ayuda=
+for _ in 1 2 3; do
+  xdotool windowactivate --sync "$ventana" 2>/dev/null || true
+  sleep 0.5
+  xdotool key F1
+  ayuda=$(busca_ventana 'Ayuda de TEXALON' 80)
+  [ -n "$ayuda" ] && break
+done
 if [ -z "$ayuda" ]; then
   falla "F1 no abre la ventana de ayuda"
 else
