@@ -165,8 +165,12 @@ TEST(GrabaFlexion, ConfiguracionRegionalEspanolaSigueEscribiendoPuntos)
 {
     const char* anterior = std::setlocale(LC_ALL, nullptr);
     const std::string guardada = anterior != nullptr ? anterior : "C";
-    if (std::setlocale(LC_ALL, "es_ES.UTF-8") == nullptr && std::setlocale(LC_ALL, "es_ES.utf8") == nullptr)
-        GTEST_SKIP() << "no hay configuración regional española en esta máquina";
+    // Its names on Linux, then on Windows.
+    bool espanola = false;
+    for (const char* nombre : {"es_ES.UTF-8", "es_ES.utf8", "es-ES", "Spanish_Spain.1252"})
+        if (!espanola) espanola = std::setlocale(LC_ALL, nombre) != nullptr;
+    if (!espanola) GTEST_SKIP() << "no hay configuración regional española en esta máquina";
+    ASSERT_EQ(std::localeconv()->decimal_point, std::string(","));
     DirectorioTemporal dir;
     General g = EstadoDeArranque();
     GrabaFlexion(g, dir.Fichero("f.vmf"), 1, Aviso());
