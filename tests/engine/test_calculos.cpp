@@ -100,6 +100,37 @@ TEST(Predeformacion, McpNegativoDaPredeformacionNegativa)
     EXPECT_EQ(A(g.EPS0, 8), "-0.00109920");
 }
 
+TEST(Predeformacion, SeccionConArmaduraSuperiorPorLaSeccionTransformada)
+{
+    General g = ProyectoPorDefecto();
+    g.ASS = 10.0;
+    g.MCP = 100.0;
+    // The cracked transformed rectangle worked out on its own: the axis balances the first
+    // moments of the block and of both bars, b X² / 2 + N A2 (X - r) = N A1 (d - X), that is
+    // (b / 2) X² + N (A1 + A2) X - N (A2 r + A1 d) = 0; I is taken about that axis.
+    const double EC = 8500.0 * std::cbrt(25.0 + 8.0);
+    const double N = 200000.0 / EC;
+    const double b = 0.4, h = 0.6, r = 0.05, d = h - r;
+    const double A1 = 10.0 / 10000.0, A2 = 10.0 / 10000.0;
+    const double ca = b / 2.0, cb = N * (A1 + A2), cc = -N * (A2 * r + A1 * d);
+    const double X = (-cb + std::sqrt(cb * cb - 4.0 * ca * cc)) / (2.0 * ca);
+    ASSERT_NEAR(b * X * X / 2.0 + N * A2 * (X - r) - N * A1 * (d - X), 0.0, 1e-15);
+    const double I = b * X * X * X / 3.0 + N * A2 * (X - r) * (X - r) + N * A1 * (d - X) * (d - X);
+    const double eps0 = (h - X) * 100.0 / (EC * 1000.0 * I);
+    // The top bar lifts the axis from the 0.124872 of the section without it.
+    EXPECT_EQ(A(X, 6), "0.116136");
+    EXPECT_EQ(A(eps0, 8), "0.00109430");
+
+    const SeccionFisurada f = AnalisisElastico(g, kSeccionRectangular);
+    EXPECT_NEAR(f.X, X, 1e-12);
+    EXPECT_NEAR(f.I, I, 1e-15);
+    Predeformacion(g, kSeccionRectangular);
+    EXPECT_NEAR(g.EPS0, eps0, 1e-15);
+    // The T section whose flange holds the axis gives the same strain.
+    Predeformacion(g, kSeccionT);
+    EXPECT_NEAR(g.EPS0, eps0, 1e-15);
+}
+
 // ---------------------------------------------------------------- rectangular section
 
 struct FilaRotura {
