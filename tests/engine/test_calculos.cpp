@@ -332,6 +332,132 @@ TEST(RoturaRectangular, MrbTomaLaArmaduraInferiorEnFluenciaAunqueNoLlegue)
     EXPECT_GT(std::fabs(g.MRB(3, 3) - (t1 + t2 - t3Deformacion) * 10.0), 1.0);
 }
 
+// The ultimate state of a rectangular section with the sheet, worked out on its own in plain
+// units: stresses in N/mm² (= 1000 kN/m²), areas in m², forces in kN, moments in mkN about the
+// bottom face. The axis depth comes from a plain bisection on the balance of forces, carried to
+// the last bit of the double.
+struct RoturaAMano {
+    double b, h, r;  // m
+    double asi, ass;  // cm²
+    double fck, fyk, gc, gs;  // N/mm²
+    double modulo, espesor;  // sheet: N/mm², mm
+    int capas;
+    double anchor;  // m
+    double eps0, epsd;
+
+    double d() const { return h - r; }
+    double fcd() const { return 0.85 * fck / gc; }
+    double fyd() const { return fyk / gs; }
+    double eyd() const { return fyd() / 200000.0; }
+
+    // The block of depth 0.8 x at the design stress.
+    double Hormigon(double x) const { return fcd() * 1000.0 * b * 0.8 * x; }
+    // Bottom bars: elastic and signed below yield, at yield above it.
+    double Inferior(double e) const
+    {
+        const double tension = e >= eyd() ? fyd() : 200000.0 * e;
+        return asi * 1e-4 * tension * 1000.0;
+    }
+    // Top bars: the size of the force; its direction is the side of the axis they lie on.
+    double Superior(double e) const
+    {
+        const double tension = e >= eyd() ? fyd() : 200000.0 * std::fabs(e);
+        return ass * 1e-4 * tension * 1000.0;
+    }
+    // The sheet is loaded only by the strain beyond the initial one.
+    double Lamina(double e) const { return (e - eps0) * modulo * anchor * espesor * 1e-3 * capas * 1000.0; }
+
+    // Strains at depth x of the plane section turning about the pivot.
+    Deformaciones Plano(char pivote, double x) const
+    {
+        double ec = 0.0;
+        switch (pivote) {
+        case 'R': ec = (eps0 + epsd) * x / (h - x); break;
+        case 'B': ec = 0.0035; break;
+        default: ec = 0.01 * x / (d() - x); break;  // 'A'
+        }
+        const double curvatura = ec / x;
+        return {ec, curvatura * (d() - x), curvatura * (x - r), curvatura * (h - x)};
+    }
+
+    double Balance(double x, const Deformaciones& e) const
+    {
+        const double superior = x >= r ? Superior(e.es2) : -Superior(e.es2);
+        return Hormigon(x) + superior - Inferior(e.es1) - Lamina(e.er);
+    }
+
+    double Momento(double x, const Deformaciones& e) const
+    {
+        const double superior = x >= r ? Superior(e.es2) : -Superior(e.es2);
+        return Hormigon(x) * (h - 0.4 * x) + superior * d() - Inferior(e.es1) * r;
+    }
+
+    struct Resultado {
+        char pivote;
+        double x;
+        double mu;
+        Deformaciones e;
+    };
+
+    Resultado Resuelve() const
+    {
+        // Concrete at 0.0035 and sheet at its design strain together: where R and B meet.
+        const double xrb = h * 0.0035 / (0.0035 + eps0 + epsd);
+        const Deformaciones rb = Plano('B', xrb);
+        Resultado res{};
+        double bajo = 0.0;
+        double alto = xrb;
+        if (Balance(xrb, rb) < 0.0) {
+            res.pivote = 'B';
+            bajo = xrb;
+            alto = h;
+        } else {
+            res.pivote = rb.es1 <= 0.01 ? 'R' : 'A';
+        }
+        for (int i = 0; i < 200; ++i) {
+            const double x = (bajo + alto) / 2.0;
+            if (Balance(x, Plano(res.pivote, x)) > 0.0)
+                alto = x;
+            else
+                bajo = x;
+        }
+        res.x = (bajo + alto) / 2.0;
+        res.e = Plano(res.pivote, res.x);
+        res.mu = Momento(res.x, res.e);
+        return res;
+    }
+};
+
+TEST(RoturaRectangular, ArmaduraSuperiorElasticaPorUnEquilibrioAMano)
+{
+    General g = ProyectoPorDefecto();
+    g.ASS = 10.0;
+    Rectangular(g, 1);
+
+    // Type L, one layer: n E t = 230000 × 0.111 = 25530 N/mm, so KM = 1 - 25530 / 428000 =
+    // 0.9404, capped at 0.9; the design strain is 0.9 × 0.015 / 1.4.
+    RoturaAMano a{0.4, 0.6, 0.05, 10.0, 10.0, 25.0, 500.0, 1.5, 1.15, 230000.0, 0.111, 1, 0.125,
+                  0.0, 0.9 * 0.015 / 1.4};
+    const RoturaAMano::Resultado esperado = a.Resuelve();
+    ASSERT_EQ(esperado.pivote, 'R');
+    // The top bars lie above the axis, in compression, and short of their yield.
+    ASSERT_GT(esperado.x, a.r);
+    ASSERT_GT(esperado.e.es2, 0.0);
+    ASSERT_LT(esperado.e.es2, a.eyd());
+    // The bottom bars have yielded.
+    ASSERT_GT(esperado.e.es1, a.eyd());
+    EXPECT_EQ(A(esperado.mu, 4), "240.9055");
+
+    EXPECT_EQ(g.PIVOTE(1, 1), "R");
+    // The search stops at a residual of 0.00001 kN: a few millionths of a mkN at most.
+    EXPECT_NEAR(g.MU(1, 1), esperado.mu, 1e-4);
+    EXPECT_NEAR(g.FN(1, 1), esperado.x, 1e-8);
+    EXPECT_NEAR(g.EPSSS(1, 1), esperado.e.es2, 1e-9);
+    EXPECT_NEAR(g.EPSC(1, 1), esperado.e.ec, 1e-9);
+    // The bars above the axis add to the moment of the section without them (238.47).
+    EXPECT_GT(g.MU(1, 1), 238.47);
+}
+
 TEST(CoeficienteForma, CadaFormaDeLaColumna)
 {
     EXPECT_EQ(CoeficienteForma(1, 0.5, 0.4), 1.0);
