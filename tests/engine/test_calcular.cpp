@@ -199,6 +199,45 @@ TEST(CalculaFlexion, MarcaNuncaGanaElMaximo)
     EXPECT_NE(g.MUMAX, kSinMejora);
 }
 
+TEST(CalculaFlexion, MaximoEnLaFilaDelTipoL)
+{
+    // A small beam full of steel under a moment near the limit: the concrete governs (pivot B)
+    // and one layer of the thinnest sheet loads the section least, so L holds the maximum.
+    General g = Proyecto();
+    g.ANCHO = 0.2;
+    g.CANTO = 0.2;
+    g.ASI = 40.0;
+    g.FCK = 25.0;
+    g.ANCHOR = 0.05;
+    g.MCP = 80.0;
+    const ResultadoCalculo r = Flexion(g);
+    ASSERT_FALSE(r.predeformacionExcesiva);
+
+    double mayor = kSinMejora;
+    int tipoMayor = 0;
+    int capasMayor = 0;
+    for (int t = 1; t <= 3; ++t)
+        for (int n = 1; n <= 5; ++n)
+            if (g.MU(t, n) > mayor) {
+                mayor = g.MU(t, n);
+                tipoMayor = t;
+                capasMayor = n;
+            }
+    EXPECT_EQ(tipoMayor, 1);
+    EXPECT_EQ(capasMayor, 1);
+    EXPECT_EQ(g.MUMAX, mayor);
+    EXPECT_EQ(g.MUMAX, g.MU(1, 1));
+    // H and X come close below it.
+    EXPECT_GT(g.MUMAX, g.MU(2, 1));
+    EXPECT_GT(g.MUMAX, g.MU(3, 1));
+    EXPECT_GT(g.MU(2, 1), 0.0);
+    EXPECT_GT(g.MU(3, 1), 0.0);
+    // The ultimate moment worked out by hand for this cell (RoturaRectangular's test of the
+    // same beam): 29.3757 mkN.
+    EXPECT_EQ(Formato(g.MUMAX, "0.0000", '.'), "29.3757");
+    EXPECT_EQ(A2(g.MUMAX), "29.38");
+}
+
 TEST(CalculaConfinamiento, IncrementoUnoDejaElLetreroOculto)
 {
     General g = Proyecto();

@@ -458,6 +458,64 @@ TEST(RoturaRectangular, ArmaduraSuperiorElasticaPorUnEquilibrioAMano)
     EXPECT_GT(g.MU(1, 1), 238.47);
 }
 
+TEST(RoturaRectangular, VigaPequenaLlenaDeAceroGiraEnBPorUnEquilibrioAMano)
+{
+    General g = ProyectoPorDefecto();
+    g.ANCHO = 0.2;
+    g.CANTO = 0.2;
+    g.ASI = 40.0;
+    g.ANCHOR = 0.05;
+    g.MCP = 80.0;
+
+    // The initial strain by the cracked transformed rectangle without top steel:
+    // (b / 2) X² + N A1 X - N A1 d = 0, I about that axis.
+    const double EC = 8500.0 * std::cbrt(25.0 + 8.0);
+    const double N = 200000.0 / EC;
+    const double A1 = 40.0 / 10000.0;
+    const double X = (-N * A1 + std::sqrt(N * A1 * N * A1 + 4.0 * 0.1 * N * A1 * 0.15)) / 0.2;
+    const double I = 0.2 * X * X * X / 3.0 + N * A1 * (0.15 - X) * (0.15 - X);
+    const double eps0 = (0.2 - X) * 80.0 / (EC * 1000.0 * I);
+    ASSERT_LT(eps0, 0.002);
+    Predeformacion(g, kSeccionRectangular);
+    ASSERT_NEAR(g.EPS0, eps0, 1e-15);
+
+    // One layer of each type. L: 230000 × 0.111 = 25530 N/mm, KM = 0.9404 capped at 0.9;
+    // H: 230000 × 0.167 = 38410 N/mm, KM = 0.9103 capped at 0.9; X: 440000 × 0.163 = 71720
+    // N/mm, KM = 1 - 71720 / 428000.
+    RoturaAMano l{0.2, 0.2, 0.05, 40.0, 0.0, 25.0, 500.0, 1.5, 1.15, 230000.0, 0.111, 1, 0.05,
+                  eps0, 0.9 * 0.015 / 1.4};
+    RoturaAMano h = l;
+    h.espesor = 0.167;
+    RoturaAMano x = l;
+    x.modulo = 440000.0;
+    x.espesor = 0.163;
+    x.epsd = (1.0 - 71720.0 / 428000.0) * 0.0055 / 1.4;
+    RoturaAMano l2 = l;
+    l2.capas = 2;
+    l2.epsd = (1.0 - 51060.0 / 428000.0) * 0.015 / 1.4;
+
+    const RoturaAMano::Resultado el = l.Resuelve();
+    const RoturaAMano::Resultado eh = h.Resuelve();
+    const RoturaAMano::Resultado ex = x.Resuelve();
+    const RoturaAMano::Resultado el2 = l2.Resuelve();
+    for (const RoturaAMano::Resultado* e : {&el, &eh, &ex, &el2})
+        ASSERT_EQ(e->pivote, 'B');
+    // The thinnest sheet loads the section least: L carries most, and a second layer less.
+    ASSERT_GT(el.mu, eh.mu);
+    ASSERT_GT(el.mu, ex.mu);
+    ASSERT_LT(el2.mu, el.mu);
+    EXPECT_EQ(A(el.mu, 4), "29.3757");
+
+    for (Entero t = 1; t <= 3; ++t)
+        Rectangular(g, t);
+    EXPECT_EQ(g.PIVOTE(1, 1), "B");
+    EXPECT_NEAR(g.MU(1, 1), el.mu, 1e-4);
+    EXPECT_NEAR(g.MU(2, 1), eh.mu, 1e-4);
+    EXPECT_NEAR(g.MU(3, 1), ex.mu, 1e-4);
+    EXPECT_EQ(g.MU(1, 2), kSinMejora);
+    EXPECT_NEAR(g.FN(1, 1), el.x, 1e-8);
+}
+
 TEST(CoeficienteForma, CadaFormaDeLaColumna)
 {
     EXPECT_EQ(CoeficienteForma(1, 0.5, 0.4), 1.0);
