@@ -275,6 +275,44 @@ TEST(CalculaConfinamiento, PredeformacionExcesivaPara)
     EXPECT_EQ(g.WC(1), 0.0);
 }
 
+TEST(CalculaConfinamiento, PredeformacionDeDosPorMilExactaPasa)
+{
+    General g = Proyecto();
+    // The default circular column, D = 0.5: the axial strain of the transformed section.
+    const double EC = 8500.0 * std::cbrt(g.FCK + 8.0);
+    const double N = 200000.0 / EC;
+    const double D = g.DIAM;
+    const double ac = (D * D * 3.141592) / 4.0;
+    const double at = ((D * D * 0.012566368) / 4.0) * N;
+    g.NCP = 0.002 * ((ac + at) * EC * 1000.0);
+    EXPECT_NEAR(g.NCP, 11020.721152767765, 1e-6);
+    // Walk NCP by single steps of the double until the strain is 0.002 to the last bit.
+    for (int paso = 0; paso < 64; ++paso) {
+        PredeformacionConfina(g);
+        if (g.EPS0 == 0.002) break;
+        g.NCP = std::nextafter(g.NCP, g.EPS0 > 0.002 ? 0.0 : 1e9);
+    }
+    ASSERT_EQ(g.EPS0, 0.002);
+    g.F_CALCULADO = false;
+    const ResultadoCalculo r = CalculaConfinamiento(g, g.SECCION, nullptr);
+    EXPECT_FALSE(r.predeformacionExcesiva);
+    EXPECT_TRUE(g.F_CALCULADO);
+    // No strain is left for the concrete to reach: the sheet takes none and adds nothing.
+    for (int t = 1; t <= 3; ++t)
+        for (int n = 1; n <= 5; ++n) {
+            EXPECT_EQ(g.EPSRC(t, n), 0.0);
+            EXPECT_EQ(g.RESU(t, n), 1.0);
+        }
+    EXPECT_EQ(r.veredicto, Veredicto::Oculto);
+
+    g.NCP = std::nextafter(g.NCP, 1e9);
+    while (PredeformacionConfina(g), g.EPS0 == 0.002)
+        g.NCP = std::nextafter(g.NCP, 1e9);
+    g.F_CALCULADO = false;
+    EXPECT_TRUE(CalculaConfinamiento(g, g.SECCION, nullptr).predeformacionExcesiva);
+    EXPECT_FALSE(g.F_CALCULADO);
+}
+
 TEST(CalculaConfinamiento, LaFormaDelCalculoEsLaDeLaLista)
 {
     General g = Proyecto();
