@@ -64,6 +64,34 @@ TEST(CeldaFlexion, AmarillaCuandoAlcanzaElMomentoDeCalculo)
     }
 }
 
+TEST(CeldaFlexion, MomentoIgualAlAlcanzadoEsAmarilloYElLetreroQuedaOculto)
+{
+    // MD is set to the moment of one cell to the last bit: MD plays no part in the moments, so
+    // a second Calculate gives the same ones.
+    const double mu = FlexionCalculada().MU(1, 1);
+    General g = Proyecto();
+    g.MD = mu;
+    const ResultadoCalculo r = CalculaFlexion(g, kSeccionRectangular, nullptr);
+    ASSERT_EQ(g.MU(1, 1), g.MD);
+    EXPECT_TRUE(CeldaFlexion(g, 1, 1, ',').cumple);
+    // Type X with one layer carries a little less (237.72 against 238.47): white.
+    ASSERT_LT(g.MU(3, 1), g.MD);
+    EXPECT_FALSE(CeldaFlexion(g, 3, 1, ',').cumple);
+    // MUSR < MD <= MUMAX: neither verdict.
+    EXPECT_LT(g.MUSR, g.MD);
+    EXPECT_EQ(r.veredicto, Veredicto::Oculto);
+
+    // At the largest moment, reached by type H with five layers, only that cell is yellow, and
+    // the section can still be strengthened.
+    g.MD = g.MUMAX;
+    const ResultadoCalculo r2 = CalculaFlexion(g, kSeccionRectangular, nullptr);
+    ASSERT_EQ(g.MU(2, 5), g.MD);
+    EXPECT_EQ(r2.veredicto, Veredicto::Oculto);
+    for (int t = 1; t <= 3; ++t)
+        for (int n = 1; n <= 5; ++n)
+            EXPECT_EQ(CeldaFlexion(g, t, n, ',').cumple, t == 2 && n == 5) << t << " " << n;
+}
+
 TEST(ResultadosFlexion, CeldaTipoUnoUnaCapa)
 {
     const General g = FlexionCalculada();
