@@ -9,6 +9,7 @@
 #include <cstdio>
 #include <filesystem>
 #include <string>
+#include <system_error>
 
 namespace texalon {
 namespace {
@@ -205,6 +206,57 @@ TEST(LeeFlexion, SinFuncionDeAvisoNoFalla)
     LeeFlexion(g, dir.Fichero("no_existe.vmf"), tipo, Aviso());
     EXPECT_TRUE(g.F_ERROR);
     prueba::EsperaValoresFlexion(g);
+}
+
+// The files this process holds open, by the entries of /proc/self/fd; -1 where there is none.
+int DescriptoresAbiertos()
+{
+    std::error_code error;
+    if (!std::filesystem::is_directory("/proc/self/fd", error)) return -1;
+    int cuenta = 0;
+    for (auto it = std::filesystem::directory_iterator("/proc/self/fd", error);
+         !error && it != std::filesystem::directory_iterator(); it.increment(error))
+        ++cuenta;
+    return cuenta;
+}
+
+TEST(LeeFlexion, CincuentaLecturasDeUnFicheroCortoNoDejanFicherosAbiertos)
+{
+    if (DescriptoresAbiertos() < 0) GTEST_SKIP() << "no hay /proc/self/fd";
+    DirectorioTemporal dir;
+    auto lineas = prueba::LineasFlexionT();
+    lineas.resize(15);  // the file ends before MD
+    prueba::EscribeBytes(dir.Fichero("corto.vmf"), prueba::ConFinDeLinea(lineas));
+    const int antes = DescriptoresAbiertos();
+    for (int vez = 0; vez < 50; ++vez) {
+        General g = prueba::EstadoAjeno();
+        Entero tipo = 0;
+        Avisos avisos;
+        LeeFlexion(g, dir.Fichero("corto.vmf"), tipo, avisos.Funcion());
+        ASSERT_TRUE(g.F_ERROR);
+        ASSERT_EQ(avisos.Textos().size(), 1u);
+        ASSERT_EQ(avisos.Textos()[0], "Error 62: La entrada sobrepasa el final del archivo");
+    }
+    EXPECT_EQ(DescriptoresAbiertos(), antes);
+}
+
+TEST(LeeConfina, CincuentaLecturasDeUnFicheroCortoNoDejanFicherosAbiertos)
+{
+    if (DescriptoresAbiertos() < 0) GTEST_SKIP() << "no hay /proc/self/fd";
+    DirectorioTemporal dir;
+    auto lineas = prueba::LineasConfinaRectangular();
+    lineas.resize(8);  // the file ends before INCR
+    prueba::EscribeBytes(dir.Fichero("corto.vmc"), prueba::ConFinDeLinea(lineas));
+    const int antes = DescriptoresAbiertos();
+    for (int vez = 0; vez < 50; ++vez) {
+        General g = prueba::EstadoAjeno();
+        Avisos avisos;
+        LeeConfina(g, dir.Fichero("corto.vmc"), avisos.Funcion());
+        ASSERT_TRUE(g.F_ERROR);
+        ASSERT_EQ(avisos.Textos().size(), 1u);
+        ASSERT_EQ(avisos.Textos()[0], "Error 62: La entrada sobrepasa el final del archivo");
+    }
+    EXPECT_EQ(DescriptoresAbiertos(), antes);
 }
 
 // --- Writers ---------------------------------------------------------------------------------------
