@@ -436,8 +436,8 @@ TEST(RoturaRectangular, ArmaduraSuperiorElasticaPorUnEquilibrioAMano)
 
     // Type L, one layer: n E t = 230000 × 0.111 = 25530 N/mm, so KM = 1 - 25530 / 428000 =
     // 0.9404, capped at 0.9; the design strain is 0.9 × 0.015 / 1.4.
-    RoturaAMano a{0.4, 0.6, 0.05, 10.0, 10.0, 25.0, 500.0, 1.5, 1.15, 230000.0, 0.111, 1, 0.125,
-                  0.0, 0.9 * 0.015 / 1.4};
+    RoturaAMano a{
+        0.4, 0.6, 0.05, 10.0, 10.0, 25.0, 500.0, 1.5, 1.15, 230000.0, 0.111, 1, 0.125, 0.0, 0.9 * 0.015 / 1.4};
     const RoturaAMano::Resultado esperado = a.Resuelve();
     ASSERT_EQ(esperado.pivote, 'R');
     // The top bars lie above the axis, in compression, and short of their yield.
@@ -482,8 +482,7 @@ TEST(RoturaRectangular, VigaPequenaLlenaDeAceroGiraEnBPorUnEquilibrioAMano)
     // One layer of each type. L: 230000 × 0.111 = 25530 N/mm, KM = 0.9404 capped at 0.9;
     // H: 230000 × 0.167 = 38410 N/mm, KM = 0.9103 capped at 0.9; X: 440000 × 0.163 = 71720
     // N/mm, KM = 1 - 71720 / 428000.
-    RoturaAMano l{0.2, 0.2, 0.05, 40.0, 0.0, 25.0, 500.0, 1.5, 1.15, 230000.0, 0.111, 1, 0.05,
-                  eps0, 0.9 * 0.015 / 1.4};
+    RoturaAMano l{0.2, 0.2, 0.05, 40.0, 0.0, 25.0, 500.0, 1.5, 1.15, 230000.0, 0.111, 1, 0.05, eps0, 0.9 * 0.015 / 1.4};
     RoturaAMano h = l;
     h.espesor = 0.167;
     RoturaAMano x = l;
