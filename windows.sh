@@ -15,7 +15,8 @@ pruebas=1
 [ "${1:-}" = "--sin-pruebas" ] && pruebas=0
 
 instala_dependencias "${PAQUETES_WINDOWS[@]}"
-export TEXALON_QT_WINDOWS="${TEXALON_QT_WINDOWS:-$HOME/.cache/texalon/qt-6.4.2-mingw64}"
+TEXALON_QT_WINDOWS=$(carpeta_qt_windows)
+export TEXALON_QT_WINDOWS
 scripts/qt-windows.sh
 
 # What the Windows build takes from the Linux one, whose tools cannot run under the cross

@@ -20,6 +20,13 @@ PAQUETES_WINDOWS=(
   g++-mingw-w64-x86-64-posix mingw-w64 wine wine64 nsis ninja-build dpkg-dev imagemagick
 )
 
+# Where scripts/qt-windows.sh keeps the Qt for Windows: $TEXALON_QT_WINDOWS, else the user's
+# cache folder (from the password database when HOME is not set, as under some CI runners).
+carpeta_qt_windows() {
+  local casa=${HOME:-$(getent passwd "$(id -u)" | cut -d: -f6)}
+  echo "${TEXALON_QT_WINDOWS:-$casa/.cache/texalon/qt-6.4.2-mingw64}"
+}
+
 # Regional settings the tests run under: Spanish (comma) and English (period).
 AJUSTES_REGIONALES=(es_ES.UTF-8 en_US.UTF-8)
 

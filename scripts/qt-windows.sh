@@ -12,7 +12,8 @@ cd "$(dirname "$0")/.."
 source scripts/comun.sh
 
 QT_VERSION=6.4.2
-export TEXALON_QT_WINDOWS="${TEXALON_QT_WINDOWS:-$HOME/.cache/texalon/qt-$QT_VERSION-mingw64}"
+TEXALON_QT_WINDOWS=$(carpeta_qt_windows)
+export TEXALON_QT_WINDOWS
 MARCA="$TEXALON_QT_WINDOWS/.texalon-completo"
 if [ -f "$MARCA" ]; then
   echo "Qt para Windows ya está en $TEXALON_QT_WINDOWS"
