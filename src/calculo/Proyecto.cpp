@@ -4,6 +4,9 @@
 
 #include "engine/Calculos.h"
 #include "files/Ficheros.h"
+#include "files/ReglasAntesDeCalcular.h"
+#include "files/ReglasConfina.h"
+#include "files/ReglasFlexion.h"
 #include "state/ErrorEjecucion.h"
 
 #include <new>
@@ -24,6 +27,21 @@ bool Lee(CalculoFichero& calculo)
     if (calculo.g.F_ERROR) calculo.errores.emplace_back(kMensajeDatosIncorrectos);
     calculo.leido = !calculo.g.F_ERROR;
     return calculo.leido;
+}
+
+// A value that the screen's field would refuse stops the file before its calculation, with the
+// field's own message: the file checks take values that no field takes, and the calculation's
+// searches end only on values within the fields' bounds.
+bool ValoresQueLosCamposAceptan(CalculoFichero& calculo)
+{
+    const General& g = calculo.g;
+    const std::optional<CampoRechazado> rechazo =
+        calculo.clase == ClaseFichero::Flexion
+            ? CampoQueRechaza(ReglasFlexion(calculo.seccion == kSeccionT), g)
+            : CampoQueRechaza(ReglasConfina(), g, [&g](const ReglaCampo& regla) { return CampoConfinaEnPantalla(regla, g); });
+    if (!rechazo) return true;
+    calculo.errores.push_back(rechazo->control + ": " + rechazo->mensaje);
+    return false;
 }
 
 // The screen reads no fields here: the state already holds the file's values.
@@ -68,7 +86,7 @@ CalculoFichero CalculaFichero(const std::string& fichero)
         return calculo;
     }
     ValoresIniciales(calculo.g);
-    if (Lee(calculo)) CalculaBajoTrampa(calculo);
+    if (Lee(calculo) && ValoresQueLosCamposAceptan(calculo)) CalculaBajoTrampa(calculo);
     return calculo;
 }
 

@@ -11,7 +11,7 @@
 #include "screens/CampoResultado.h"
 #include "screens/Entrada.h"
 #include "screens/Proyecto.h"
-#include "screens/ReglasConfina.h"
+#include "files/ReglasConfina.h"
 
 #include <QFontMetrics>
 #include <QGridLayout>

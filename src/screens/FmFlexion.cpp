@@ -10,7 +10,7 @@
 #include "screens/Entrada.h"
 #include "screens/FmAnclaje.h"
 #include "screens/Proyecto.h"
-#include "screens/ReglasFlexion.h"
+#include "files/ReglasFlexion.h"
 #include "screens/RejillaResultados.h"
 
 #include <QComboBox>

@@ -10,7 +10,7 @@
 #include "engine/Calcular.h"
 #include "engine/Caracteristicas.h"
 #include "screens/Formulario.h"
-#include "screens/ReglasCampo.h"
+#include "files/ReglasCampo.h"
 
 #include <functional>
 #include <string>

@@ -164,5 +164,33 @@ TEST(ErroresCalculo, TodosCorrectosTerminaConCero)
     EXPECT_EQ(ejecucion.errores, "");
 }
 
+// A rectangular column whose sides' ratio is 3.3: the file checks take it, the fields refuse it,
+// and its calculation would never end. The file fails with the field's message and the next
+// file is calculated.
+TEST(ErroresCalculo, UnValorQueElCampoRechazaDetieneElFicheroConElMensajeDelCampo)
+{
+    DirectorioTemporal directorio;
+    const std::string pilar =
+        directorio.Escribe("pilar.vmc", "3\r\n0.5\r\n0.15\r\n15\r\n1.5\r\n1.15\r\n1.4\r\n0\r\n1.2\r\n");
+    const std::string bueno = directorio.Escribe("bueno.vmc", kConfinamiento);
+    const Ejecucion ejecucion = EjecutaCalculo({pilar, bueno});
+    EXPECT_EQ(ejecucion.estado, 1);
+    EXPECT_EQ(ejecucion.errores,
+              pilar + ": TX_DIAM: La relación entre lados del elemento a confinar debe ser menor de 1,5.\n");
+    EXPECT_TRUE(Contiene(ejecucion.salida, bueno + ": Confinamiento, sección circular"));
+    EXPECT_FALSE(Contiene(ejecucion.salida, pilar + ":"));
+}
+
+// The same column calculated as a square one: only a rectangle has a ratio of sides.
+TEST(ErroresCalculo, LaRelacionDeLadosSoloSeMideEnElRectangulo)
+{
+    DirectorioTemporal directorio;
+    const std::string pilar =
+        directorio.Escribe("pilar.vmc", "2\r\n0.5\r\n0.15\r\n25\r\n1.5\r\n1.15\r\n1.4\r\n0\r\n1.2\r\n");
+    const Ejecucion ejecucion = EjecutaCalculo({pilar});
+    EXPECT_EQ(ejecucion.estado, 0) << ejecucion.errores;
+    EXPECT_EQ(ejecucion.errores, "");
+}
+
 }  // namespace
 }  // namespace texalon::prueba

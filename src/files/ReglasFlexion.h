@@ -2,7 +2,7 @@
 // each with its tests and messages.
 #pragma once
 
-#include "screens/ReglasCampo.h"
+#include "files/ReglasCampo.h"
 
 namespace texalon {
 

@@ -2,7 +2,7 @@
 // without the widgets.
 #pragma once
 
-#include "screens/ReglasCampo.h"
+#include "files/ReglasCampo.h"
 
 #include <optional>
 #include <string>
@@ -12,6 +12,10 @@ namespace texalon {
 
 // The numeric fields in the order of the screen: TX_DIAM, TX_LADOMENOR, TX_INCR, TX_NCP, CO_FCK.
 const std::vector<ReglaCampo>& ReglasConfina();
+
+// Whether the field is on the screen for the section of the state: "Lado menor" only for a
+// rectangular column.
+bool CampoConfinaEnPantalla(const ReglaCampo& regla, const General& g);
 
 // The rows of CO_SECCION, index 0 to 2 for SECCION 1 to 3.
 const std::vector<std::string>& FilasSeccion();

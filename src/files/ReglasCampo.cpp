@@ -1,4 +1,4 @@
-#include "screens/ReglasCampo.h"
+#include "files/ReglasCampo.h"
 
 #include "state/Decimales.h"
 #include "state/Formato.h"

@@ -1,4 +1,4 @@
-#include "screens/ReglasFlexion.h"
+#include "files/ReglasFlexion.h"
 
 namespace texalon {
 

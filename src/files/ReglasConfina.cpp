@@ -1,4 +1,4 @@
-#include "screens/ReglasConfina.h"
+#include "files/ReglasConfina.h"
 
 #include "engine/Calculos.h"
 
@@ -76,6 +76,11 @@ const std::vector<std::string>& FilasSeccion()
 {
     static const std::vector<std::string> filas = {"CIRCULAR", "CUADRADA", "RECTANGULAR"};
     return filas;
+}
+
+bool CampoConfinaEnPantalla(const ReglaCampo& regla, const General& g)
+{
+    return regla.campo != &General::LADOMENOR || g.SECCION == kFilaRectangular + 1;
 }
 
 double RelacionLados(double mayor, double menor)

@@ -1,0 +1,29 @@
+// The entry rules of the fields applied to the values as they stand, before a calculation: a
+// project file holds values that no field would take (a rectangular column whose sides' ratio
+// is 3), and the calculation's searches end only on values within the fields' bounds.
+#pragma once
+
+#include "files/ReglasCampo.h"
+#include "state/General.h"
+
+#include <functional>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace texalon {
+
+// The field that refuses its value, with that field's own message.
+struct CampoRechazado {
+    std::string control;  // "TX_LADOMENOR"
+    std::string mensaje;
+};
+
+// The first field, in the screen's order, whose value its field would refuse on acceptance: its
+// upper and lower bounds and its hard tests against the other values. A soft test keeps the
+// value on the screen too, and is not a refusal.
+// `enPantalla` leaves out the fields that the screen does not show for these values.
+std::optional<CampoRechazado> CampoQueRechaza(const std::vector<ReglaCampo>& reglas, const General& g,
+                                              const std::function<bool(const ReglaCampo&)>& enPantalla = nullptr);
+
+}  // namespace texalon
