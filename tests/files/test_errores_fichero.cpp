@@ -8,6 +8,7 @@
 
 #include <cstdio>
 #include <filesystem>
+#include <functional>
 #include <string>
 #include <system_error>
 
@@ -226,24 +227,34 @@ int DescriptoresAbiertos()
 #endif
 }
 
+// Reads a cut-short file fifty times with `lee`, each read failing at its end: the count of
+// open files must be the same afterwards.
+void CincuentaLecturasFallidas(const std::function<void(General&, Avisos&)>& lee)
+{
+    const int antes = DescriptoresAbiertos();
+    for (int vez = 0; vez < 50; ++vez) {
+        General g = prueba::EstadoAjeno();
+        Avisos avisos;
+        lee(g, avisos);
+        ASSERT_TRUE(g.F_ERROR);
+        ASSERT_EQ(avisos.Textos().size(), 1u);
+        ASSERT_EQ(avisos.Textos()[0], "Error 62: La entrada sobrepasa el final del archivo");
+    }
+    EXPECT_EQ(DescriptoresAbiertos(), antes);
+}
+
 TEST(LeeFlexion, CincuentaLecturasDeUnFicheroCortoNoDejanFicherosAbiertos)
 {
     if (DescriptoresAbiertos() < 0) GTEST_SKIP() << "no hay /proc/self/fd";
     DirectorioTemporal dir;
     auto lineas = prueba::LineasFlexionT();
     lineas.resize(15);  // the file ends before MD
-    prueba::EscribeBytes(dir.Fichero("corto.vmf"), prueba::ConFinDeLinea(lineas));
-    const int antes = DescriptoresAbiertos();
-    for (int vez = 0; vez < 50; ++vez) {
-        General g = prueba::EstadoAjeno();
+    const std::string fichero = dir.Fichero("corto.vmf");
+    prueba::EscribeBytes(fichero, prueba::ConFinDeLinea(lineas));
+    CincuentaLecturasFallidas([&fichero](General& g, Avisos& avisos) {
         Entero tipo = 0;
-        Avisos avisos;
-        LeeFlexion(g, dir.Fichero("corto.vmf"), tipo, avisos.Funcion());
-        ASSERT_TRUE(g.F_ERROR);
-        ASSERT_EQ(avisos.Textos().size(), 1u);
-        ASSERT_EQ(avisos.Textos()[0], "Error 62: La entrada sobrepasa el final del archivo");
-    }
-    EXPECT_EQ(DescriptoresAbiertos(), antes);
+        LeeFlexion(g, fichero, tipo, avisos.Funcion());
+    });
 }
 
 TEST(LeeConfina, CincuentaLecturasDeUnFicheroCortoNoDejanFicherosAbiertos)
@@ -252,17 +263,9 @@ TEST(LeeConfina, CincuentaLecturasDeUnFicheroCortoNoDejanFicherosAbiertos)
     DirectorioTemporal dir;
     auto lineas = prueba::LineasConfinaRectangular();
     lineas.resize(8);  // the file ends before INCR
-    prueba::EscribeBytes(dir.Fichero("corto.vmc"), prueba::ConFinDeLinea(lineas));
-    const int antes = DescriptoresAbiertos();
-    for (int vez = 0; vez < 50; ++vez) {
-        General g = prueba::EstadoAjeno();
-        Avisos avisos;
-        LeeConfina(g, dir.Fichero("corto.vmc"), avisos.Funcion());
-        ASSERT_TRUE(g.F_ERROR);
-        ASSERT_EQ(avisos.Textos().size(), 1u);
-        ASSERT_EQ(avisos.Textos()[0], "Error 62: La entrada sobrepasa el final del archivo");
-    }
-    EXPECT_EQ(DescriptoresAbiertos(), antes);
+    const std::string fichero = dir.Fichero("corto.vmc");
+    prueba::EscribeBytes(fichero, prueba::ConFinDeLinea(lineas));
+    CincuentaLecturasFallidas([&fichero](General& g, Avisos& avisos) { LeeConfina(g, fichero, avisos.Funcion()); });
 }
 
 // --- Writers ---------------------------------------------------------------------------------------
