@@ -4,6 +4,8 @@
 #include "engine/Seccion.h"
 #include "state/Formato.h"
 
+#include "VigaPequena.h"
+
 #include <gtest/gtest.h>
 
 #include <cmath>
@@ -204,12 +206,7 @@ TEST(CalculaFlexion, MaximoEnLaFilaDelTipoL)
     // A small beam full of steel under a moment near the limit: the concrete governs (pivot B)
     // and one layer of the thinnest sheet loads the section least, so L holds the maximum.
     General g = Proyecto();
-    g.ANCHO = 0.2;
-    g.CANTO = 0.2;
-    g.ASI = 40.0;
-    g.FCK = 25.0;
-    g.ANCHOR = 0.05;
-    g.MCP = 80.0;
+    HazVigaPequenaLlenaDeAcero(g);
     const ResultadoCalculo r = Flexion(g);
     ASSERT_FALSE(r.predeformacionExcesiva);
 

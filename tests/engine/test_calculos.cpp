@@ -4,6 +4,8 @@
 #include "state/Catalogo.h"
 #include "state/Formato.h"
 
+#include "VigaPequena.h"
+
 #include <gtest/gtest.h>
 
 #include <string>
@@ -461,11 +463,7 @@ TEST(RoturaRectangular, ArmaduraSuperiorElasticaPorUnEquilibrioAMano)
 TEST(RoturaRectangular, VigaPequenaLlenaDeAceroGiraEnBPorUnEquilibrioAMano)
 {
     General g = ProyectoPorDefecto();
-    g.ANCHO = 0.2;
-    g.CANTO = 0.2;
-    g.ASI = 40.0;
-    g.ANCHOR = 0.05;
-    g.MCP = 80.0;
+    HazVigaPequenaLlenaDeAcero(g);
 
     // The initial strain by the cracked transformed rectangle without top steel:
     // (b / 2) X² + N A1 X - N A1 d = 0, I about that axis.

@@ -11,6 +11,7 @@
 #include <functional>
 #include <string>
 #include <system_error>
+#include <vector>
 
 namespace texalon {
 namespace {
@@ -227,15 +228,20 @@ int DescriptoresAbiertos()
 #endif
 }
 
-// Reads a cut-short file fifty times with `lee`, each read failing at its end: the count of
-// open files must be the same afterwards.
-void CincuentaLecturasFallidas(const std::function<void(General&, Avisos&)>& lee)
+// Writes the lines as a file cut short and reads it fifty times with `lee`, each read failing
+// at its end: the count of open files must be the same afterwards.
+void CincuentaLecturasFallidas(const std::vector<std::string>& lineas, const std::string& nombre,
+                               const std::function<void(const std::string&, General&, Avisos&)>& lee)
 {
+    if (DescriptoresAbiertos() < 0) GTEST_SKIP() << "no hay /proc/self/fd";
+    DirectorioTemporal dir;
+    const std::string fichero = dir.Fichero(nombre);
+    prueba::EscribeBytes(fichero, prueba::ConFinDeLinea(lineas));
     const int antes = DescriptoresAbiertos();
     for (int vez = 0; vez < 50; ++vez) {
         General g = prueba::EstadoAjeno();
         Avisos avisos;
-        lee(g, avisos);
+        lee(fichero, g, avisos);
         ASSERT_TRUE(g.F_ERROR);
         ASSERT_EQ(avisos.Textos().size(), 1u);
         ASSERT_EQ(avisos.Textos()[0], "Error 62: La entrada sobrepasa el final del archivo");
@@ -245,13 +251,9 @@ void CincuentaLecturasFallidas(const std::function<void(General&, Avisos&)>& lee
 
 TEST(LeeFlexion, CincuentaLecturasDeUnFicheroCortoNoDejanFicherosAbiertos)
 {
-    if (DescriptoresAbiertos() < 0) GTEST_SKIP() << "no hay /proc/self/fd";
-    DirectorioTemporal dir;
     auto lineas = prueba::LineasFlexionT();
     lineas.resize(15);  // the file ends before MD
-    const std::string fichero = dir.Fichero("corto.vmf");
-    prueba::EscribeBytes(fichero, prueba::ConFinDeLinea(lineas));
-    CincuentaLecturasFallidas([&fichero](General& g, Avisos& avisos) {
+    CincuentaLecturasFallidas(lineas, "corto.vmf", [](const std::string& fichero, General& g, Avisos& avisos) {
         Entero tipo = 0;
         LeeFlexion(g, fichero, tipo, avisos.Funcion());
     });
@@ -259,13 +261,11 @@ TEST(LeeFlexion, CincuentaLecturasDeUnFicheroCortoNoDejanFicherosAbiertos)
 
 TEST(LeeConfina, CincuentaLecturasDeUnFicheroCortoNoDejanFicherosAbiertos)
 {
-    if (DescriptoresAbiertos() < 0) GTEST_SKIP() << "no hay /proc/self/fd";
-    DirectorioTemporal dir;
     auto lineas = prueba::LineasConfinaRectangular();
     lineas.resize(8);  // the file ends before INCR
-    const std::string fichero = dir.Fichero("corto.vmc");
-    prueba::EscribeBytes(fichero, prueba::ConFinDeLinea(lineas));
-    CincuentaLecturasFallidas([&fichero](General& g, Avisos& avisos) { LeeConfina(g, fichero, avisos.Funcion()); });
+    CincuentaLecturasFallidas(lineas, "corto.vmc", [](const std::string& fichero, General& g, Avisos& avisos) {
+        LeeConfina(g, fichero, avisos.Funcion());
+    });
 }
 
 // --- Writers ---------------------------------------------------------------------------------------

@@ -57,11 +57,16 @@ public:
 const QString kAsunto = QStringLiteral("INFORMACION SOBRE EL SISTEMA DE REFUERZO TEXALON®");
 const QString kBuzon = QStringLiteral("texalon@velmora.example");
 
-TEST(CorreoMapi, ConMapiFirmaUnaVezYEnviaElAsuntoYElDestinatarioEnUtf8)
-{
+// Every case: the mail over a double of MAPI, with a double of the mailto: handler behind it.
+class CorreoPorMapi : public ::testing::Test {
+protected:
     MapiDoble mapi;
     MailtoDoble mailto;
-    CorreoMapi correo(mapi, mailto);
+    CorreoMapi correo{mapi, mailto};
+};
+
+TEST_F(CorreoPorMapi, ConMapiFirmaUnaVezYEnviaElAsuntoYElDestinatarioEnUtf8)
+{
     ASSERT_TRUE(correo.IniciaSesion());
     EXPECT_TRUE(correo.PorMapi());
     EXPECT_TRUE(correo.Redacta(kAsunto, kBuzon));
@@ -74,12 +79,9 @@ TEST(CorreoMapi, ConMapiFirmaUnaVezYEnviaElAsuntoYElDestinatarioEnUtf8)
     EXPECT_EQ(mailto.redactados, 0);
 }
 
-TEST(CorreoMapi, SinMapiElCorreoVaAlManejadorMailto)
+TEST_F(CorreoPorMapi, SinMapiElCorreoVaAlManejadorMailto)
 {
-    MapiDoble mapi;
     mapi.hay = false;
-    MailtoDoble mailto;
-    CorreoMapi correo(mapi, mailto);
     ASSERT_TRUE(correo.IniciaSesion());
     EXPECT_FALSE(correo.PorMapi());
     EXPECT_TRUE(correo.Redacta(kAsunto, kBuzon));
@@ -91,12 +93,9 @@ TEST(CorreoMapi, SinMapiElCorreoVaAlManejadorMailto)
     EXPECT_EQ(mapi.cierres, 0);
 }
 
-TEST(CorreoMapi, UnFalloDeFirmaQueNoEsDelUsuarioVaAlManejadorMailto)
+TEST_F(CorreoPorMapi, UnFalloDeFirmaQueNoEsDelUsuarioVaAlManejadorMailto)
 {
-    MapiDoble mapi;
     mapi.resultadoInicio = 3;  // MAPI_E_LOGIN_FAILURE: no mail profile
-    MailtoDoble mailto;
-    CorreoMapi correo(mapi, mailto);
     ASSERT_TRUE(correo.IniciaSesion());
     EXPECT_FALSE(correo.PorMapi());
     EXPECT_TRUE(correo.Redacta(kAsunto, kBuzon));
@@ -104,22 +103,16 @@ TEST(CorreoMapi, UnFalloDeFirmaQueNoEsDelUsuarioVaAlManejadorMailto)
     EXPECT_TRUE(mapi.asuntos.empty());
 }
 
-TEST(CorreoMapi, LaFirmaCanceladaPorElUsuarioFalla)
+TEST_F(CorreoPorMapi, LaFirmaCanceladaPorElUsuarioFalla)
 {
-    MapiDoble mapi;
     mapi.resultadoInicio = ApiMapi::kCanceladoPorElUsuario;
-    MailtoDoble mailto;
-    CorreoMapi correo(mapi, mailto);
     EXPECT_FALSE(correo.IniciaSesion());
     EXPECT_EQ(mailto.inicios, 0);
 }
 
-TEST(CorreoMapi, UnEnvioCanceladoOFallidoFallaYLaSesionSigue)
+TEST_F(CorreoPorMapi, UnEnvioCanceladoOFallidoFallaYLaSesionSigue)
 {
-    MapiDoble mapi;
     mapi.resultadoEnvio = ApiMapi::kCanceladoPorElUsuario;
-    MailtoDoble mailto;
-    CorreoMapi correo(mapi, mailto);
     ASSERT_TRUE(correo.IniciaSesion());
     EXPECT_FALSE(correo.Redacta(kAsunto, kBuzon));
     EXPECT_TRUE(correo.PorMapi());
@@ -128,11 +121,8 @@ TEST(CorreoMapi, UnEnvioCanceladoOFallidoFallaYLaSesionSigue)
     EXPECT_EQ(mapi.inicios, 1);
 }
 
-TEST(CorreoMapi, CerrarLaSesionMapiLaCierraUnaVez)
+TEST_F(CorreoPorMapi, CerrarLaSesionMapiLaCierraUnaVez)
 {
-    MapiDoble mapi;
-    MailtoDoble mailto;
-    CorreoMapi correo(mapi, mailto);
     ASSERT_TRUE(correo.IniciaSesion());
     correo.CierraSesion();
     EXPECT_EQ(mapi.cierres, 1);
