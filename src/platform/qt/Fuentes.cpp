@@ -4,7 +4,6 @@
 #include <QDir>
 #include <QFont>
 #include <QFontDatabase>
-#include <QGuiApplication>
 
 namespace texalon::plataforma {
 
