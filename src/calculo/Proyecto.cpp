@@ -5,8 +5,6 @@
 #include "engine/Calculos.h"
 #include "files/Ficheros.h"
 #include "files/ReglasAntesDeCalcular.h"
-#include "files/ReglasConfina.h"
-#include "files/ReglasFlexion.h"
 #include "state/ErrorEjecucion.h"
 
 #include <new>
@@ -34,11 +32,9 @@ bool Lee(CalculoFichero& calculo)
 // searches end only on values within the fields' bounds.
 bool ValoresQueLosCamposAceptan(CalculoFichero& calculo)
 {
-    const General& g = calculo.g;
-    const std::optional<CampoRechazado> rechazo =
-        calculo.clase == ClaseFichero::Flexion
-            ? CampoQueRechaza(ReglasFlexion(calculo.seccion == kSeccionT), g)
-            : CampoQueRechaza(ReglasConfina(), g, [&g](const ReglaCampo& regla) { return CampoConfinaEnPantalla(regla, g); });
+    const std::optional<CampoRechazado> rechazo = calculo.clase == ClaseFichero::Flexion
+                                                      ? CampoQueRechazaLaFlexion(calculo.g, calculo.seccion)
+                                                      : CampoQueRechazaElConfinamiento(calculo.g);
     if (!rechazo) return true;
     calculo.errores.push_back(rechazo->control + ": " + rechazo->mensaje);
     return false;

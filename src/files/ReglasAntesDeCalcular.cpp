@@ -1,5 +1,10 @@
 #include "files/ReglasAntesDeCalcular.h"
 
+#include "engine/Calculos.h"
+#include "files/ReglasCoeficientes.h"
+#include "files/ReglasConfina.h"
+#include "files/ReglasFlexion.h"
+
 #include <cmath>
 
 namespace texalon {
@@ -14,11 +19,36 @@ std::optional<CampoRechazado> CampoQueRechaza(const std::vector<ReglaCampo>& reg
         if (regla.maximo && valor > regla.maximo->valor) return CampoRechazado{regla.control, regla.maximo->mensaje};
         if (regla.minimo && valor < regla.minimo->valor) return CampoRechazado{regla.control, regla.minimo->mensaje};
         for (const PruebaPropia& prueba : regla.propias) {
-            if (prueba.companeroBlando.empty() && prueba.falla(valor, g))
+            if (prueba.companeroBlando.empty() && !prueba.soloAlAceptar && prueba.falla(valor, g))
                 return CampoRechazado{regla.control, prueba.mensaje};
         }
     }
     return std::nullopt;
+}
+
+namespace {
+
+// The screen's own fields first, as Calculate meets them, then the dialog's.
+std::optional<CampoRechazado> ConCoeficientes(std::optional<CampoRechazado> rechazo, const General& g)
+{
+    if (rechazo) return rechazo;
+    rechazo = CampoQueRechaza(ReglasCoeficientes(), g);
+    if (rechazo) rechazo->coeficiente = true;
+    return rechazo;
+}
+
+}  // namespace
+
+std::optional<CampoRechazado> CampoQueRechazaLaFlexion(const General& g, Entero seccion)
+{
+    return ConCoeficientes(CampoQueRechaza(ReglasFlexion(seccion == kSeccionT), g), g);
+}
+
+std::optional<CampoRechazado> CampoQueRechazaElConfinamiento(const General& g)
+{
+    return ConCoeficientes(
+        CampoQueRechaza(ReglasConfina(), g, [&g](const ReglaCampo& regla) { return CampoConfinaEnPantalla(regla, g); }),
+        g);
 }
 
 }  // namespace texalon

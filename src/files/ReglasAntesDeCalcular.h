@@ -17,13 +17,23 @@ namespace texalon {
 struct CampoRechazado {
     std::string control;  // "TX_LADOMENOR"
     std::string mensaje;
+    bool coeficiente = false;  // a field of the safety coefficient dialog, FM_COEF
 };
 
 // The first field, in the screen's order, whose value its field would refuse on acceptance: its
 // upper and lower bounds and its hard tests against the other values. A soft test keeps the
-// value on the screen too, and is not a refusal.
+// value on the screen too, and is not a refusal; nor is a test that only the field's own
+// acceptance runs.
 // `enPantalla` leaves out the fields that the screen does not show for these values.
 std::optional<CampoRechazado> CampoQueRechaza(const std::vector<ReglaCampo>& reglas, const General& g,
                                               const std::function<bool(const ReglaCampo&)>& enPantalla = nullptr);
+
+// What Calculate refuses on a flexure screen of that section kind (1 rectangular, 2 T): its
+// fields in the screen's order, then the three coefficients of FM_COEF.
+std::optional<CampoRechazado> CampoQueRechazaLaFlexion(const General& g, Entero seccion);
+// The same on the confinement screen, for the section of `g.SECCION`: "Lado menor" only for a
+// rectangular column. A DIAM below LADOMENOR is no refusal: no field tests it, and Calculate
+// goes ahead with it.
+std::optional<CampoRechazado> CampoQueRechazaElConfinamiento(const General& g);
 
 }  // namespace texalon

@@ -28,12 +28,12 @@ void MarcaCambio(General& g)
 
 PruebaPropia Blanda(std::function<bool(double, const General&)> falla, std::string mensaje, std::string companero)
 {
-    return {std::move(falla), std::move(mensaje), std::move(companero), std::nullopt, nullptr};
+    return {std::move(falla), std::move(mensaje), std::move(companero), std::nullopt, nullptr, false};
 }
 
 PruebaPropia Dura(std::function<bool(double, const General&)> falla, std::string mensaje)
 {
-    return {std::move(falla), std::move(mensaje), {}, std::nullopt, nullptr};
+    return {std::move(falla), std::move(mensaje), {}, std::nullopt, nullptr, false};
 }
 
 ReglaCampo ReglaFck()

@@ -28,6 +28,8 @@ struct PruebaPropia {
     // A hard test may reset another field, or reset to a value taken from the state.
     std::optional<CampoEstado> campoReinicio;
     std::function<double(const General& g)> valorReinicio;
+    // A test of the field alone: Calculate goes ahead with values that fail it.
+    bool soloAlAceptar = false;
 };
 
 struct Limite {

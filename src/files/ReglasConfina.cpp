@@ -11,6 +11,14 @@ namespace {
 constexpr char kMensajeLadoMenor[] = "El lado menor debe ser un número más pequeño que el lado mayor.";
 constexpr char kMensajeRelacion[] = "La relación entre lados del elemento a confinar debe ser menor de 1,5.";
 
+// The short side above the long one is refused as the short side is typed, but a long side
+// typed below the short one passes its own field, and Calculate goes ahead with the two.
+PruebaPropia SoloAlAceptar(PruebaPropia prueba)
+{
+    prueba.soloAlAceptar = true;
+    return prueba;
+}
+
 std::vector<ReglaCampo> Construye()
 {
     return {
@@ -36,7 +44,7 @@ std::vector<ReglaCampo> Construye()
          std::nullopt,
          Limite{kMinimoLongitud, "El lado menor debe ser mayor que cero."},
          std::nullopt,
-         {Dura([](double v, const General& g) { return v > g.DIAM; }, kMensajeLadoMenor),
+         {SoloAlAceptar(Dura([](double v, const General& g) { return v > g.DIAM; }, kMensajeLadoMenor)),
           Dura([](double v, const General& g) { return RelacionLados(g.DIAM, v) >= kRelacionMaxima; },
                kMensajeRelacion)}},
         // Exactly 1 passes, though the message asks for more than 1.

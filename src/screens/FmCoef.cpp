@@ -2,6 +2,7 @@
 
 #include "platform/Dialogos.h"
 #include "platform/Plataforma.h"
+#include "files/ReglasCoeficientes.h"
 #include "screens/Entrada.h"
 #include "state/Decimales.h"
 #include "state/ErrorEjecucion.h"
@@ -25,41 +26,21 @@
 
 namespace texalon {
 
-// What tells one row of the dialog from the others: its control, its labels, the messages of
-// its tests, the state field it feeds at Aceptar and the value Restablecer writes.
+// What tells one row of the dialog from the others beyond its field's rule: its labels.
 struct FmCoef::Coeficiente {
-    const char* nombre;
     const char* simbolo;
     const char* etiqueta;
-    const char* vacio;
-    const char* noNumero;
-    const char* menorQueUno;
-    double General::*estado;
-    double inicial;
 };
 
 namespace {
 
-// The three rows, top to bottom. The messages are worded as the users have always read them,
-// "de ser un número" and the steel's "menor de 1" included.
+// The three rows, top to bottom, in the order of ReglasCoeficientes().
 const FmCoef::Coeficiente kCoeficientes[] = {
-    {"TX_GC", "γ<sub>c</sub>", "Coeficiente de seguridad del hormigón",
-     "Debe darse el coeficiente de seguridad del hormigón.",
-     "El coeficiente de seguridad del hormigón de ser un número.",
-     "El coeficiente de seguridad del hormigón no puede ser menor que 1.", &General::GC, defecto::GC},
-    {"TX_GS", "γ<sub>s</sub>", "Coeficiente de seguridad del acero",
-     "Debe darse el coeficiente de seguridad del acero.", "El coeficiente de seguridad del acero de ser un número.",
-     "El coeficiente de seguridad del acero no puede ser menor de 1.", &General::GS, defecto::GS},
-    {"TX_GR", "γ<sub>R</sub>", "Coeficiente de seguridad del TEXALON®",
-     "Debe darse el coeficiente de seguridad del refuerzo TEXALON®.",
-     "El coeficiente de seguridad del refuerzo TEXALON® de ser un número.",
-     "El coeficiente de seguridad del refuerzo TEXALON® no puede ser menor que 1.", &General::GR, defecto::GR},
+    {"γ<sub>c</sub>", "Coeficiente de seguridad del hormigón"},
+    {"γ<sub>s</sub>", "Coeficiente de seguridad del acero"},
+    {"γ<sub>R</sub>", "Coeficiente de seguridad del TEXALON®"},
 };
 
-// A coefficient below 1 would make the design strengths larger than the characteristic ones.
-constexpr double kCoeficienteMinimo = 1.0;
-
-constexpr char kFormato[] = "0.00";
 
 const QString kNota = QStringLiteral(
     "<b>NOTA: </b>Se recomienda no modificar los valores de los coeficientes de seguridad "
@@ -67,16 +48,18 @@ const QString kNota = QStringLiteral(
 
 const FmCoef::Coeficiente& CoeficienteDe(int fila) { return kCoeficientes[static_cast<std::size_t>(fila)]; }
 
+const ReglaCampo& ReglaDe(int fila) { return ReglasCoeficientes()[static_cast<std::size_t>(fila)]; }
+
 // The value that a field's text stands for: the sign is dropped, as for every field.
 double ValorDe(const QString& texto) { return std::fabs(Decimales(texto.trimmed().toStdString())); }
 
 // The message of the first test the text fails, or nothing when it passes them all. Only the
 // empty text is "not given": blanks alone fail the numeric test.
-std::optional<QString> Rechazo(const QString& texto, const FmCoef::Coeficiente& coeficiente)
+std::optional<QString> Rechazo(const QString& texto, const ReglaCampo& regla)
 {
-    if (texto.isEmpty()) return QString::fromUtf8(coeficiente.vacio);
-    if (!EsNumerico(texto.toStdString())) return QString::fromUtf8(coeficiente.noNumero);
-    if (ValorDe(texto) < kCoeficienteMinimo) return QString::fromUtf8(coeficiente.menorQueUno);
+    if (texto.isEmpty()) return QString::fromStdString(regla.mensajeVacio);
+    if (!EsNumerico(texto.toStdString())) return QString::fromStdString(regla.mensajeNoNumero);
+    if (ValorDe(texto) < regla.minimo->valor) return QString::fromStdString(regla.minimo->mensaje);
     return std::nullopt;
 }
 
@@ -137,7 +120,7 @@ FmCoef::FmCoef(QWidget* padre) : QDialog(padre)
     auto* filas = new QGridLayout;
     filas->setHorizontalSpacing(10);
     for (int fila = 0; fila < kNumCoeficientes; ++fila) {
-        campos_[fila] = CreaFila(filas, fila, CoeficienteDe(fila));
+        campos_[fila] = CreaFila(filas, fila);
     }
 
     QLabel* nota = Etiqueta(QStringLiteral("LB_NOTA"), kNota, Qt::RichText, this);
@@ -179,9 +162,19 @@ int FmCoef::Muestra(QWidget* padre)
     return plataforma::ServicioVentanas().MuestraModal(dialogo);
 }
 
-QLineEdit* FmCoef::CreaFila(QGridLayout* rejilla, int fila, const Coeficiente& coeficiente)
+int FmCoef::MuestraEnCampo(QWidget* padre, const QString& control)
 {
-    const QString nombre = QString::fromLatin1(coeficiente.nombre);
+    FmCoef dialogo(padre);
+    // The focus set before the dialog shows is where its window puts it when it opens.
+    if (auto* campo = dialogo.findChild<QLineEdit*>(control)) DevuelveFoco(campo);
+    return plataforma::ServicioVentanas().MuestraModal(dialogo);
+}
+
+QLineEdit* FmCoef::CreaFila(QGridLayout* rejilla, int fila)
+{
+    const Coeficiente& coeficiente = CoeficienteDe(fila);
+    const ReglaCampo& regla = ReglaDe(fila);
+    const QString nombre = QString::fromStdString(regla.control);
     const QString etiqueta = QString::fromUtf8(coeficiente.etiqueta);
     const QString sufijo = nombre.mid(2);  // "_GC" of "TX_GC"
 
@@ -190,7 +183,7 @@ QLineEdit* FmCoef::CreaFila(QGridLayout* rejilla, int fila, const Coeficiente& c
     campo->setAccessibleName(etiqueta);
     campo->setAlignment(Qt::AlignRight);
     campo->setFixedWidth(AnchoCampo(campo));
-    AlPerderFoco(campo, [this, campo, &coeficiente] { CompruebaCampo(campo, coeficiente); });
+    AlPerderFoco(campo, [this, campo, &regla] { CompruebaCampo(campo, regla); });
 
     QLabel* simbolo =
         Etiqueta(QStringLiteral("LB_GAMMA") + sufijo, QString::fromUtf8(coeficiente.simbolo), Qt::RichText, this);
@@ -226,23 +219,23 @@ void FmCoef::OrdenaTabulacion()
 void FmCoef::CargaEstado()
 {
     for (int fila = 0; fila < kNumCoeficientes; ++fila) {
-        const double valor = Estado().*(CoeficienteDe(fila).estado);
-        EscribeTexto(campos_[fila], plataforma::FormatoLocal(valor, kFormato));
+        const double valor = Estado().*(ReglaDe(fila).campo);
+        EscribeTexto(campos_[fila], plataforma::FormatoLocal(valor, ReglaDe(fila).formato));
     }
 }
 
 // A field leaving the focus: the tests of every field with a bound of 1, but the state field
 // itself waits for Aceptar. Passing through a field still counts as a change of the project,
 // even if the user then leaves by Cancelar.
-void FmCoef::CompruebaCampo(QLineEdit* campo, const Coeficiente& coeficiente)
+void FmCoef::CompruebaCampo(QLineEdit* campo, const ReglaCampo& regla)
 {
     const QString texto = TextoDe(campo);
-    if (const std::optional<QString> mensaje = Rechazo(texto, coeficiente)) {
+    if (const std::optional<QString> mensaje = Rechazo(texto, regla)) {
         plataforma::MsgBox(*mensaje, plataforma::Estilo::Parada);
         DevuelveFoco(campo);
         return;
     }
-    EscribeTexto(campo, plataforma::FormatoLocal(ValorDe(texto), kFormato));
+    EscribeTexto(campo, plataforma::FormatoLocal(ValorDe(texto), regla.formato));
     Estado().F_MODIFICADO = true;
     Estado().F_CALCULADO = false;
 }
@@ -258,7 +251,7 @@ void FmCoef::Aceptar()
     for (int fila = 0; fila < kNumCoeficientes; ++fila)
         valores[fila] = LecturaRegional(TextoDe(campos_[fila]));
     for (int fila = 0; fila < kNumCoeficientes; ++fila)
-        Estado().*(CoeficienteDe(fila).estado) = valores[fila];
+        Estado().*(ReglaDe(fila).campo) = valores[fila];
     accept();
 }
 
@@ -266,7 +259,7 @@ void FmCoef::Aceptar()
 void FmCoef::Restablecer()
 {
     for (int fila = 0; fila < kNumCoeficientes; ++fila) {
-        EscribeTexto(campos_[fila], plataforma::FormatoLocal(CoeficienteDe(fila).inicial, kFormato));
+        EscribeTexto(campos_[fila], plataforma::FormatoLocal(ReglaDe(fila).reinicio, ReglaDe(fila).formato));
     }
 }
 

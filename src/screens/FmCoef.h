@@ -11,6 +11,8 @@ class QPushButton;
 
 namespace texalon {
 
+struct ReglaCampo;
+
 class FmCoef : public QDialog {
     Q_OBJECT
 public:
@@ -20,6 +22,10 @@ public:
     // the user left by Aceptar. The caller greys its result buttons afterwards, whatever the
     // answer.
     static int Muestra(QWidget* padre);
+    // The same, with the focus and the selection in the field of that control ("TX_GC"), as a
+    // refusal leaves them: Calculate sends the user here for a coefficient that the dialog
+    // would refuse.
+    static int MuestraEnCampo(QWidget* padre, const QString& control);
 
     // One row of the dialog, described where the dialog is built.
     struct Coeficiente;
@@ -27,12 +33,12 @@ public:
 private:
     static constexpr int kNumCoeficientes = 3;
 
-    QLineEdit* CreaFila(QGridLayout* rejilla, int fila, const Coeficiente& coeficiente);
+    QLineEdit* CreaFila(QGridLayout* rejilla, int fila);
     QPushButton* CreaBoton(const char* nombre, const QString& texto);
     void OrdenaTabulacion();
 
     void CargaEstado();
-    void CompruebaCampo(QLineEdit* campo, const Coeficiente& coeficiente);
+    void CompruebaCampo(QLineEdit* campo, const ReglaCampo& regla);
     void Aceptar();
     void Restablecer();
 

@@ -220,14 +220,27 @@ void FmConfina::Aceptado(const ReglaCampo& regla)
     EscribeCoeficienteForma();
 }
 
+Entero FmConfina::Forma() const { return static_cast<Entero>(seccion_->currentIndex() + 1); }
+
+// INCR and SECCION are not read here: their own handlers keep them current.
+void FmConfina::LeeCampos(General& g) const
+{
+    for (const char* nombre : {"TX_DIAM", "TX_LADOMENOR", "CO_FCK", "TX_NCP"})
+        LeeCampo(g, Regla(nombre));
+}
+
 ResultadoCalculo FmConfina::Calcula()
 {
-    // INCR and SECCION are not read here: their own handlers keep them current.
-    const auto forma = static_cast<Entero>(seccion_->currentIndex() + 1);
-    return CalculaConfinamiento(Estado(), forma, [this](General& g) {
-        for (const char* nombre : {"TX_DIAM", "TX_LADOMENOR", "CO_FCK", "TX_NCP"})
-            LeeCampo(g, Regla(nombre));
-    });
+    return CalculaConfinamiento(Estado(), Forma(), [this](General& g) { LeeCampos(g); });
+}
+
+// The fields are tested for the section that the calculation takes, the one of the list.
+std::optional<CampoRechazado> FmConfina::CampoQueRechazaAlCalcular() const
+{
+    General valores = Estado();
+    LeeCampos(valores);
+    valores.SECCION = Forma();
+    return CampoQueRechazaElConfinamiento(valores);
 }
 
 CeldaResultado FmConfina::Celda(int tipo, int capas) const

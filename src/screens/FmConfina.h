@@ -26,6 +26,7 @@ public:
 protected:
     void Aceptado(const ReglaCampo& regla) override;
     ResultadoCalculo Calcula() override;
+    std::optional<CampoRechazado> CampoQueRechazaAlCalcular() const override;
     CeldaResultado Celda(int tipo, int capas) const override;
     void MuestraCelda(int tipo, int capas) override;
     void BajaBandera(General& g) override;
@@ -40,6 +41,10 @@ private:
     void CambioSeccion(bool porClic);
     void ActivaLadoMenor(bool activo);
     void EscribeCoeficienteForma();
+    // The section that Calculate takes: the row of CO_SECCION, from 1.
+    Entero Forma() const;
+    // The fields read into `g` as Calculate reads them.
+    void LeeCampos(General& g) const;
 
     QComboBox* seccion_ = nullptr;  // CO_SECCION
     // The texts of the cell that the result fields show: the report reads them.

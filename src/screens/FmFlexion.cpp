@@ -184,12 +184,24 @@ void FmFlexion::Aceptado(const ReglaCampo& regla)
     if (regla.control == "TX_ANCHO" || regla.control == "TX_ANCHOALMA") EscribeFilasAnchoRefuerzo();
 }
 
+Entero FmFlexion::Seccion() const { return seccionT_ ? kSeccionT : kSeccionRectangular; }
+
+void FmFlexion::LeeCampos(General& g) const
+{
+    for (const ReglaCampo& regla : ReglasFlexion(seccionT_))
+        LeeCampo(g, regla);
+}
+
 ResultadoCalculo FmFlexion::Calcula()
 {
-    return CalculaFlexion(Estado(), seccionT_ ? kSeccionT : kSeccionRectangular, [this](General& g) {
-        for (const ReglaCampo& regla : ReglasFlexion(seccionT_))
-            LeeCampo(g, regla);
-    });
+    return CalculaFlexion(Estado(), Seccion(), [this](General& g) { LeeCampos(g); });
+}
+
+std::optional<CampoRechazado> FmFlexion::CampoQueRechazaAlCalcular() const
+{
+    General valores = Estado();
+    LeeCampos(valores);
+    return CampoQueRechazaLaFlexion(valores, Seccion());
 }
 
 CeldaResultado FmFlexion::Celda(int tipo, int capas) const

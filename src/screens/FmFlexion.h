@@ -30,6 +30,7 @@ public:
 protected:
     void Aceptado(const ReglaCampo& regla) override;
     ResultadoCalculo Calcula() override;
+    std::optional<CampoRechazado> CampoQueRechazaAlCalcular() const override;
     CeldaResultado Celda(int tipo, int capas) const override;
     void MuestraCelda(int tipo, int capas) override;
     void CeldaElegida(int tipo, int capas) override;
@@ -40,6 +41,9 @@ private:
     QWidget* CreaDatos();
     void EscribeFilasAnchoRefuerzo();
     TextosFlexion Textos() const;
+    Entero Seccion() const;  // kSeccionRectangular or kSeccionT
+    // The fields read into `g` as Calculate reads them.
+    void LeeCampos(General& g) const;
 
     // The diagrams of the screen on its picture, each the rectangular or T procedure as the
     // screen is, shown with the procedure's isotropic setting.

@@ -278,6 +278,7 @@ void FormularioCalculo::ActivaResultados(bool activos)
 
 void FormularioCalculo::Calcular()
 {
+    if (RechazaAntesDeCalcular()) return;
     const ResultadoCalculo r = Calcula();
     if (r.predeformacionExcesiva) {
         plataforma::MsgBox(Texto(kMensajePredeformacion), plataforma::Estilo::Parada);
@@ -293,6 +294,24 @@ void FormularioCalculo::Calcular()
     rejilla_->setFocus();
     rejilla_->CeldaActual(1, 1);
     GraficoDelCalculo();
+}
+
+// A value that reached a field without the user's typing it (a project file holds values that no
+// field takes) is refused as the field refuses it on acceptance: its message, the focus and the
+// selection in it, and nothing calculated. The engine's searches end only on values within the
+// fields' bounds. A coefficient is refused in its own dialog, opened on it.
+bool FormularioCalculo::RechazaAntesDeCalcular()
+{
+    const std::optional<CampoRechazado> rechazo = CampoQueRechazaAlCalcular();
+    if (!rechazo) return false;
+    plataforma::MsgBox(Texto(rechazo->mensaje), plataforma::Estilo::Parada);
+    if (rechazo->coeficiente) {
+        FmCoef::MuestraEnCampo(this, Texto(rechazo->control));
+        ActivaResultados(false);
+    } else {
+        DevuelveFoco(Control(Texto(rechazo->control)));
+    }
+    return true;
 }
 
 void FormularioCalculo::TablaResultados()

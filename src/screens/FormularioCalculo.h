@@ -10,9 +10,11 @@
 #include "engine/Calcular.h"
 #include "engine/Caracteristicas.h"
 #include "screens/Formulario.h"
+#include "files/ReglasAntesDeCalcular.h"
 #include "files/ReglasCampo.h"
 
 #include <functional>
+#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -101,6 +103,10 @@ protected:
 
     // The engine's flow of the screen's Calculate, its fields read on the way.
     virtual ResultadoCalculo Calcula() = 0;
+    // The first field whose value, as Calculate would read it, its field would refuse: a value
+    // loaded from a file that the user never typed, or a coefficient out of FM_COEF's rules.
+    // The state is not touched.
+    virtual std::optional<CampoRechazado> CampoQueRechazaAlCalcular() const = 0;
     // The text and the colour of a grid cell.
     virtual CeldaResultado Celda(int tipo, int capas) const = 0;
     // The results of one cell in the results panel.
@@ -126,6 +132,7 @@ protected:
     RejillaResultados* rejilla_ = nullptr;
 
 private:
+    bool RechazaAntesDeCalcular();
     void TablaResultados();
     void MuestraVeredicto(Veredicto veredicto);
     void ClicEnRejilla(int fila, int columna);

@@ -192,5 +192,86 @@ TEST(ErroresCalculo, LaRelacionDeLadosSoloSeMideEnElRectangulo)
     EXPECT_EQ(ejecucion.errores, "");
 }
 
+// Every value that the file checks take and a field refuses, file by file: the file fails with
+// the field's message, and is not calculated.
+struct ValorQueElCampoRechaza {
+    const char* nombre;
+    const char* fichero;
+    std::string_view bytes;
+    const char* mensaje;  // the field and its message
+};
+
+void PrintTo(const ValorQueElCampoRechaza& caso, std::ostream* salida) { *salida << caso.nombre; }
+
+class ValoresQueLosCamposRechazan : public ::testing::TestWithParam<ValorQueElCampoRechaza> {};
+
+TEST_P(ValoresQueLosCamposRechazan, ElFicheroFallaConElMensajeDelCampo)
+{
+    const ValorQueElCampoRechaza& caso = GetParam();
+    DirectorioTemporal directorio;
+    const std::string fichero = directorio.Escribe(caso.fichero, caso.bytes);
+    const Ejecucion ejecucion = EjecutaCalculo({fichero});
+    EXPECT_EQ(ejecucion.estado, 1);
+    EXPECT_EQ(ejecucion.salida, "");
+    EXPECT_EQ(ejecucion.errores, fichero + ": " + caso.mensaje + "\n");
+}
+
+// Rectangular: ANCHO CANTO RECUB ASI ASS FCK FYK GC GS GR ANCHOR MCP MD; T: ANCHO CANTO
+// ANCHOALMA CANTOALA, then the same; column: SECCION DIAM LADOMENOR FCK GC GS GR NCP INCR.
+INSTANTIATE_TEST_SUITE_P(
+    ErroresCalculo, ValoresQueLosCamposRechazan,
+    ::testing::Values(
+        ValorQueElCampoRechaza{"ancho", "viga.vmf",
+                               "1\r\n0.005\r\n0.6\r\n0.05\r\n10\r\n0\r\n25\r\n500\r\n1.5\r\n1.15\r\n1.4\r\n0.005\r\n0\r\n0\r\n",
+                               "TX_ANCHO: El ancho de la sección debe ser un número mayor que cero."},
+        ValorQueElCampoRechaza{"canto", "viga.vmf",
+                               "1\r\n0.4\r\n0.008\r\n0.004\r\n10\r\n0\r\n25\r\n500\r\n1.5\r\n1.15\r\n1.4\r\n0.125\r\n0\r\n0\r\n",
+                               "TX_CANTO: El canto de la sección debe ser un número mayor que cero."},
+        ValorQueElCampoRechaza{"recubrimiento", "viga.vmf",
+                               "1\r\n0.4\r\n0.6\r\n0.009\r\n10\r\n0\r\n25\r\n500\r\n1.5\r\n1.15\r\n1.4\r\n0.125\r\n0\r\n0\r\n",
+                               "TX_RECUB: El recubrimiento de la sección debe ser mayor que cero."},
+        ValorQueElCampoRechaza{"armadura_inferior", "viga.vmf",
+                               "1\r\n0.4\r\n0.6\r\n0.05\r\n0.009\r\n0\r\n25\r\n500\r\n1.5\r\n1.15\r\n1.4\r\n0.125\r\n0\r\n0\r\n",
+                               "TX_ASI: La armadura inferior de la sección debe ser mayor que cero."},
+        ValorQueElCampoRechaza{"ancho_del_refuerzo", "viga.vmf",
+                               "1\r\n0.4\r\n0.6\r\n0.05\r\n10\r\n0\r\n25\r\n500\r\n1.5\r\n1.15\r\n1.4\r\n0.009\r\n0\r\n0\r\n",
+                               "CO_ANCHOR: El ancho del refuerzo a disponer en la sección debe ser mayor que cero."},
+        // Of 0 the calculation would end in a division by zero.
+        ValorQueElCampoRechaza{"coeficiente_del_hormigon", "viga.vmf",
+                               "1\r\n0.4\r\n0.6\r\n0.05\r\n10\r\n0\r\n25\r\n500\r\n0\r\n1.15\r\n1.4\r\n0.125\r\n0\r\n0\r\n",
+                               "TX_GC: El coeficiente de seguridad del hormigón no puede ser menor que 1."},
+        ValorQueElCampoRechaza{"coeficiente_del_acero", "viga.vmf",
+                               "1\r\n0.4\r\n0.6\r\n0.05\r\n10\r\n0\r\n25\r\n500\r\n1.5\r\n0.99\r\n1.4\r\n0.125\r\n0\r\n0\r\n",
+                               "TX_GS: El coeficiente de seguridad del acero no puede ser menor de 1."},
+        ValorQueElCampoRechaza{"coeficiente_del_refuerzo", "viga.vmf",
+                               "1\r\n0.4\r\n0.6\r\n0.05\r\n10\r\n0\r\n25\r\n500\r\n1.5\r\n1.15\r\n0.5\r\n0.125\r\n0\r\n0\r\n",
+                               "TX_GR: El coeficiente de seguridad del refuerzo TEXALON® no puede ser menor que 1."},
+        ValorQueElCampoRechaza{"T_ancho_del_alma", "viga.vmf",
+                               "2\r\n0.4\r\n0.6\r\n0.009\r\n0.2\r\n0.05\r\n10\r\n0\r\n25\r\n500\r\n1.5\r\n1.15\r\n1.4\r\n0.009\r\n0\r\n0\r\n",
+                               "TX_ANCHOALMA: El ancho del alma de la sección debe ser un número mayor que cero."},
+        ValorQueElCampoRechaza{"T_canto_del_ala", "viga.vmf",
+                               "2\r\n0.4\r\n0.6\r\n0.2\r\n0.009\r\n0.05\r\n10\r\n0\r\n25\r\n500\r\n1.5\r\n1.15\r\n1.4\r\n0.125\r\n0\r\n0\r\n",
+                               "TX_CANTOALA: El canto del ala de la sección debe ser un número mayor que cero."},
+        ValorQueElCampoRechaza{"T_coeficiente_del_hormigon", "viga.vmf",
+                               "2\r\n0.4\r\n0.6\r\n0.2\r\n0.2\r\n0.05\r\n10\r\n0\r\n25\r\n500\r\n0.5\r\n1.15\r\n1.4\r\n0.125\r\n0\r\n0\r\n",
+                               "TX_GC: El coeficiente de seguridad del hormigón no puede ser menor que 1."},
+        ValorQueElCampoRechaza{"pilar_circular_diametro", "pilar.vmc",
+                               "1\r\n0.009\r\n0.009\r\n25\r\n1.5\r\n1.15\r\n1.4\r\n0\r\n1\r\n",
+                               "TX_DIAM: El diámetro o lado debe ser mayor que cero."},
+        ValorQueElCampoRechaza{"pilar_cuadrado_diametro", "pilar.vmc",
+                               "2\r\n0.009\r\n0.4\r\n25\r\n1.5\r\n1.15\r\n1.4\r\n0\r\n1\r\n",
+                               "TX_DIAM: El diámetro o lado debe ser mayor que cero."},
+        ValorQueElCampoRechaza{"pilar_rectangular_lado_menor", "pilar.vmc",
+                               "3\r\n0.011\r\n0.009\r\n25\r\n1.5\r\n1.15\r\n1.4\r\n0\r\n1\r\n",
+                               "TX_LADOMENOR: El lado menor debe ser mayor que cero."},
+        // Sides in a ratio of exactly 1.5, the first that the fields refuse.
+        ValorQueElCampoRechaza{"pilar_rectangular_relacion", "pilar.vmc",
+                               "3\r\n0.6\r\n0.4\r\n25\r\n1.5\r\n1.15\r\n1.4\r\n0\r\n1\r\n",
+                               "TX_DIAM: La relación entre lados del elemento a confinar debe ser menor de 1,5."},
+        ValorQueElCampoRechaza{"pilar_coeficiente_del_refuerzo", "pilar.vmc",
+                               "1\r\n0.5\r\n0.4\r\n25\r\n1.5\r\n1.15\r\n0\r\n0\r\n1\r\n",
+                               "TX_GR: El coeficiente de seguridad del refuerzo TEXALON® no puede ser menor que 1."}),
+    [](const ::testing::TestParamInfo<ValorQueElCampoRechaza>& fila) { return std::string(fila.param.nombre); });
+
 }  // namespace
 }  // namespace texalon::prueba

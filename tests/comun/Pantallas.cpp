@@ -4,10 +4,12 @@
 #include "diagrams/qt/Lienzo.h"
 #include "screens/Formulario.h"
 
+#include <QApplication>
 #include <QComboBox>
 #include <QLineEdit>
 #include <QTest>
 #include <fstream>
+#include <map>
 #include <sstream>
 
 namespace texalon::prueba {
@@ -74,6 +76,34 @@ QStringList PruebaDePantalla::Mensajes() const
     for (const auto& m : doble_->mensajes.mostrados)
         lista << m.texto;
     return lista;
+}
+
+bool PruebaDePantalla::FocoYSeleccion(const char* nombre) const
+{
+    QWidget* control = C(nombre);
+    QLineEdit* editor = qobject_cast<QLineEdit*>(control);
+    if (auto* lista = qobject_cast<QComboBox*>(control)) editor = lista->lineEdit();
+    return editor != nullptr && QApplication::focusWidget() == control && !editor->text().isEmpty() &&
+           editor->selectedText() == editor->text();
+}
+
+void PruebaDePantalla::EscribeValores(General& g, const QString& valores)
+{
+    static const std::map<QString, double General::*> campos{
+        {QStringLiteral("ANCHO"), &General::ANCHO},         {QStringLiteral("CANTO"), &General::CANTO},
+        {QStringLiteral("ANCHOALMA"), &General::ANCHOALMA}, {QStringLiteral("CANTOALA"), &General::CANTOALA},
+        {QStringLiteral("RECUB"), &General::RECUB},         {QStringLiteral("ASI"), &General::ASI},
+        {QStringLiteral("ANCHOR"), &General::ANCHOR},       {QStringLiteral("DIAM"), &General::DIAM},
+        {QStringLiteral("LADOMENOR"), &General::LADOMENOR}, {QStringLiteral("GC"), &General::GC},
+        {QStringLiteral("GS"), &General::GS},               {QStringLiteral("GR"), &General::GR},
+    };
+    for (const QString& asignacion : valores.split(QLatin1Char(';'))) {
+        const QStringList partes = asignacion.split(QLatin1Char('='));
+        if (partes.first() == QStringLiteral("SECCION"))
+            g.SECCION = static_cast<Entero>(partes.last().toInt());
+        else
+            g.*campos.at(partes.first()) = partes.last().toDouble();
+    }
 }
 
 void PruebaDePantalla::CierraPantalla()

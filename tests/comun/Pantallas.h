@@ -49,6 +49,13 @@ protected:
     // The texts of the messages shown so far.
     QStringList Mensajes() const;
 
+    // Whether the control has the focus with its whole text selected, as a refusal leaves it.
+    bool FocoYSeleccion(const char* nombre) const;
+
+    // Values written into the state as a project file leaves them, "ANCHO=0.005;ASI=0.004":
+    // values that no field has taken.
+    static void EscribeValores(General& g, const QString& valores);
+
     // The end of a test: the screen closed, its prompt answered No, the doubles gone.
     void CierraPantalla();
 

@@ -820,15 +820,83 @@ private slots:
         QVERIFY(C("CM_SECCION")->isEnabled());
     }
 
-    void divisionPorCeroAlCalcularEsErrorFatal()
+    void desbordamientoAlCalcularEsErrorFatal()
     {
-        Abre();
-        Estado().GC = 0.0;
+        // A diameter of 1e160 m passes every test: the calculation overflows on it.
+        Abre(',', [](General& g) { g.DIAM = 1e160; });
         Calcula();
         QCOMPARE(doble_->proceso.erroresFatales.size(), std::size_t{1});
         QCOMPARE(doble_->proceso.erroresFatales[0].texto,
-                 QStringLiteral("Se ha producido el error '11' en tiempo de ejecución:\r\rDivisión por cero"));
-        Estado().GC = 1.5;
+                 QStringLiteral("Se ha producido el error '6' en tiempo de ejecución:\r\rDesbordamiento"));
+    }
+
+    // ---- Values that no field has taken: a project file holds values that its fields refuse.
+
+    void unValorQueSuCampoRechazaNoSeCalcula_data()
+    {
+        QTest::addColumn<QString>("valores");
+        QTest::addColumn<QString>("control");
+        QTest::addColumn<QString>("mensaje");
+        // The file checks take any side above 0; the fields take 0.01 and up.
+        for (const char* seccion : {"1", "2", "3"})
+            QTest::addRow("diámetro en la sección %s", seccion)
+                << QStringLiteral("SECCION=%1;DIAM=0.005;LADOMENOR=0.004").arg(QLatin1String(seccion)) << "TX_DIAM"
+                << "El diámetro o lado debe ser mayor que cero.";
+    }
+
+    void unValorQueSuCampoRechazaNoSeCalcula()
+    {
+        QFETCH(QString, valores);
+        QFETCH(QString, control);
+        QFETCH(QString, mensaje);
+        Abre(',', [&valores](General& g) { EscribeValores(g, valores); });
+        Calcula();
+        QCOMPARE(Mensajes(), QStringList{mensaje});
+        QVERIFY(FocoYSeleccion(control.toLatin1().constData()));
+        QVERIFY(!Estado().F_CALCULADO);
+        QVERIFY(!Rejilla()->EstaActiva());
+        QVERIFY(!C("CM_CONFINA")->isEnabled());
+    }
+
+    void elPilarDeLadosEnRelacionTresConTresNoSeCalcula()
+    {
+        // The file's column of 0.5 by 0.15 m, whose calculation would never end: refused on the
+        // load, and again at Calculate, which leaves the short side.
+        AbreRectangular(0.5, 0.15);
+        QCOMPARE(Mensajes(), QStringList{kRelacion});
+        Calcula();
+        QCOMPARE(Mensajes(), QStringList({kRelacion, kRelacion}));
+        QVERIFY(FocoYSeleccion("TX_LADOMENOR"));
+        QVERIFY(!Estado().F_CALCULADO);
+        QVERIFY(!Rejilla()->EstaActiva());
+    }
+
+    void unCoeficienteQueSuCampoRechazaSeCorrigeEnSuDialogo()
+    {
+        Abre(',', [](General& g) { g.GS = 0.5; });
+        bool enfocado = false;
+        doble_->ventanas.alMostrar = [&enfocado](QDialog& dialogo) {
+            dialogo.activateWindow();
+            QVERIFY(QTest::qWaitForWindowActive(&dialogo));
+            auto* campo = dialogo.findChild<QLineEdit*>(QStringLiteral("TX_GS"));
+            enfocado = QTest::qWaitFor([campo] { return QApplication::focusWidget() == campo; }) &&
+                       campo->selectedText() == QStringLiteral("0,50");
+            QTest::keyClicks(campo, QStringLiteral("1,15"));
+            QTest::keyClick(campo, Qt::Key_Tab);
+            QTest::mouseClick(dialogo.findChild<QPushButton*>(QStringLiteral("CM_ACEPTAR")), Qt::LeftButton);
+        };
+        Calcula();
+        QCOMPARE(Mensajes(), QStringList{QStringLiteral("El coeficiente de seguridad del acero no puede ser menor de 1.")});
+        QCOMPARE(doble_->ventanas.mostradas, QStringList{QStringLiteral("FM_COEF")});
+        QVERIFY(enfocado);
+        QCOMPARE(Estado().GS, 1.15);
+        QVERIFY(!Estado().F_CALCULADO);
+        // Back on the screen, Calculate again: the coefficient typed is the one calculated with.
+        pantalla_->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(pantalla_));
+        Calcula();
+        QVERIFY(Estado().F_CALCULADO);
+        QVERIFY(Rejilla()->EstaActiva());
     }
 
     // ---- The unload.

@@ -31,12 +31,14 @@ class PruebaFlexion : public prueba::PruebaDePantalla {
 
     Formulario* EnPrueba() const override { return pantalla_; }
 
-    // A fresh state with the start values, and the screen loaded over it.
-    FmFlexion& Abre(bool seccionT = false, char separador = ',')
+    // A fresh state with the start values, changed as the test needs before the load, and the
+    // screen loaded over it.
+    FmFlexion& Abre(bool seccionT = false, char separador = ',', const QString& valores = {})
     {
         delete pantalla_;
         Estado() = General{};
         ValoresIniciales(Estado());
+        if (!valores.isEmpty()) EscribeValores(Estado(), valores);
         NuevosDobles(separador);
         pantalla_ = new FmFlexion(seccionT);
         pantalla_->show();
@@ -996,17 +998,92 @@ private slots:
         QCOMPARE(Estado().EPSRSEL, Estado().EPSR(1, 1));
     }
 
-    void divisionPorCeroAlCalcularEsErrorFatal()
+    void desbordamientoAlCalcularEsErrorFatal()
     {
-        Abre();
-        // A coefficient of 0 can come from a file: the calculation divides by it.
-        Estado().GC = 0.0;
+        // A depth of 1e300 m passes every test: the calculation overflows on it.
+        Abre(false, ',', QStringLiteral("CANTO=1e300"));
         Calcula();
         QCOMPARE(doble_->proceso.erroresFatales.size(), std::size_t{1});
         QCOMPARE(doble_->proceso.erroresFatales[0].texto,
-                 QStringLiteral("Se ha producido el error '11' en tiempo de ejecución:\r\rDivisión por cero"));
+                 QStringLiteral("Se ha producido el error '6' en tiempo de ejecución:\r\rDesbordamiento"));
         QCOMPARE(doble_->proceso.terminaciones, std::vector<int>{1});
-        Estado().GC = 1.5;
+    }
+
+    // ---- Values that no field has taken: a project file holds values that its fields refuse.
+
+    void unValorQueSuCampoRechazaNoSeCalcula_data()
+    {
+        QTest::addColumn<bool>("seccionT");
+        QTest::addColumn<QString>("valores");
+        QTest::addColumn<QString>("control");
+        QTest::addColumn<QString>("mensaje");
+        // The file checks take any length above 0; the fields take 0.01 and up.
+        QTest::newRow("ancho") << false << "ANCHO=0.005;ANCHOR=0.005" << "TX_ANCHO"
+                               << "El ancho de la sección debe ser un número mayor que cero.";
+        QTest::newRow("canto") << false << "CANTO=0.008;RECUB=0.004" << "TX_CANTO"
+                               << "El canto de la sección debe ser un número mayor que cero.";
+        QTest::newRow("recubrimiento") << false << "RECUB=0.004" << "TX_RECUB"
+                                       << "El recubrimiento de la sección debe ser mayor que cero.";
+        // 0.004 cm² shows as "0,00": the field's text is what Calculate reads.
+        QTest::newRow("armadura inferior") << false << "ASI=0.004" << "TX_ASI"
+                                           << "La armadura inferior de la sección debe ser mayor que cero.";
+        QTest::newRow("ancho del refuerzo")
+            << false << "ANCHOR=0.005" << "CO_ANCHOR"
+            << "El ancho del refuerzo a disponer en la sección debe ser mayor que cero.";
+        QTest::newRow("T ancho") << true << "ANCHO=0.005;ANCHOALMA=0.005;ANCHOR=0.005" << "TX_ANCHO"
+                                 << "El ancho de la sección debe ser un número mayor que cero.";
+        QTest::newRow("T ancho del alma") << true << "ANCHOALMA=0.005;ANCHOR=0.005" << "TX_ANCHOALMA"
+                                          << "El ancho del alma de la sección debe ser un número mayor que cero.";
+        QTest::newRow("T canto del ala") << true << "CANTOALA=0.005" << "TX_CANTOALA"
+                                         << "El canto del ala de la sección debe ser un número mayor que cero.";
+        QTest::newRow("T recubrimiento") << true << "RECUB=0.004" << "TX_RECUB"
+                                         << "El recubrimiento de la sección debe ser mayor que cero.";
+    }
+
+    void unValorQueSuCampoRechazaNoSeCalcula()
+    {
+        QFETCH(bool, seccionT);
+        QFETCH(QString, valores);
+        QFETCH(QString, control);
+        QFETCH(QString, mensaje);
+        Abre(seccionT, ',', valores);
+        Calcula();
+        QCOMPARE(Mensajes(), QStringList{mensaje});
+        QVERIFY(FocoYSeleccion(control.toLatin1().constData()));
+        QVERIFY(!Estado().F_CALCULADO);
+        QVERIFY(!Rejilla()->EstaActiva());
+        QVERIFY(BotonesResultado(false));
+        QVERIFY(doble_->proceso.erroresFatales.empty());
+    }
+
+    void unCoeficienteQueSuCampoRechazaSeCorrigeEnSuDialogo()
+    {
+        // A coefficient of 0 from a file would divide by zero: Calculate opens the dialog on it.
+        Abre(false, ',', QStringLiteral("GC=0"));
+        bool enfocado = false;
+        doble_->ventanas.alMostrar = [&enfocado](QDialog& dialogo) {
+            dialogo.activateWindow();
+            QVERIFY(QTest::qWaitForWindowActive(&dialogo));
+            auto* campo = dialogo.findChild<QLineEdit*>(QStringLiteral("TX_GC"));
+            enfocado = QTest::qWaitFor([campo] { return QApplication::focusWidget() == campo; }) &&
+                       campo->selectedText() == QStringLiteral("0,00");
+            QTest::keyClicks(campo, QStringLiteral("1,5"));
+            QTest::keyClick(campo, Qt::Key_Tab);
+            QTest::mouseClick(dialogo.findChild<QPushButton*>(QStringLiteral("CM_ACEPTAR")), Qt::LeftButton);
+        };
+        Calcula();
+        QCOMPARE(Mensajes(), QStringList{QStringLiteral("El coeficiente de seguridad del hormigón no puede ser menor que 1.")});
+        QCOMPARE(doble_->ventanas.mostradas, QStringList{QStringLiteral("FM_COEF")});
+        QVERIFY(enfocado);
+        QCOMPARE(Estado().GC, 1.5);
+        QVERIFY(!Estado().F_CALCULADO);
+        QVERIFY(doble_->proceso.erroresFatales.empty());
+        // Back on the screen, Calculate again: the coefficient typed is the one calculated with.
+        pantalla_->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(pantalla_));
+        Calcula();
+        QVERIFY(Estado().F_CALCULADO);
+        QVERIFY(Rejilla()->EstaActiva());
     }
 
     void deUnExtremoAOtroComoUnUsuario()

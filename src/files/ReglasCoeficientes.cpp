@@ -1,0 +1,37 @@
+#include "files/ReglasCoeficientes.h"
+
+namespace texalon {
+
+namespace {
+
+// A coefficient below 1 would make the design strengths larger than the characteristic ones.
+constexpr double kCoeficienteMinimo = 1.0;
+
+ReglaCampo Coeficiente(const char* control, CampoEstado campo, double inicial, const char* vacio,
+                       const char* noNumero, const char* menorQueUno)
+{
+    return {control, campo, "0.00", inicial, vacio, noNumero, std::nullopt, Limite{kCoeficienteMinimo, menorQueUno},
+            std::nullopt, {}};
+}
+
+}  // namespace
+
+// The messages are worded as the users have always read them, "de ser un número" and the
+// steel's "menor de 1" included.
+const std::vector<ReglaCampo>& ReglasCoeficientes()
+{
+    static const std::vector<ReglaCampo> reglas = {
+        Coeficiente("TX_GC", &General::GC, defecto::GC, "Debe darse el coeficiente de seguridad del hormigón.",
+                    "El coeficiente de seguridad del hormigón de ser un número.",
+                    "El coeficiente de seguridad del hormigón no puede ser menor que 1."),
+        Coeficiente("TX_GS", &General::GS, defecto::GS, "Debe darse el coeficiente de seguridad del acero.",
+                    "El coeficiente de seguridad del acero de ser un número.",
+                    "El coeficiente de seguridad del acero no puede ser menor de 1."),
+        Coeficiente("TX_GR", &General::GR, defecto::GR, "Debe darse el coeficiente de seguridad del refuerzo TEXALON®.",
+                    "El coeficiente de seguridad del refuerzo TEXALON® de ser un número.",
+                    "El coeficiente de seguridad del refuerzo TEXALON® no puede ser menor que 1."),
+    };
+    return reglas;
+}
+
+}  // namespace texalon
