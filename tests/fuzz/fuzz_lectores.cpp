@@ -2,18 +2,22 @@
 //
 // An input is one project file: its first byte chooses the reader (even: flexure, VMF; odd:
 // confinement, VMC; the seeds start with 'F' and 'C', so that they read as text) and the rest
-// is the file. The file is read into a fresh state; a file the reader takes whose values the
-// screens would accept too is written back, read again, and calculated. The engine's searches
-// have no iteration limit and end only on data within the screens' bounds, so a state out of
-// them is read and checked but never calculated here.
+// is the file. The file is read into a fresh state by its reader, then put through the batch
+// command's own path, which reads it again, refuses what a field of its screen would refuse and
+// calculates the rest: whatever a reader accepts is calculated or refused there, and a search
+// that never ends is caught by libFuzzer's timeout. A file whose values the fields accept is
+// also written back and read again.
 //
-// A finding ends the process with a trap: a run-time error of a calculation (the engine raises
-// one on a division by zero or an overflow) or a result that is not finite, a reader that
-// leaves other values than the defaults on a refused file, a file written from a good state
-// that does not read back the same.
+// A finding ends the process with a trap: a run-time error of a calculation on values that the
+// fields accept, other than an overflow (a length of 1e300 m passes every field, and the screen
+// ends on it with the same error), or a result that is not finite, a reader that leaves other
+// values than the defaults on a refused file, a file written from a good state that does not
+// read back the same.
 
+#include "calculo/Proyecto.h"
 #include "engine/Calcular.h"
 #include "files/Ficheros.h"
+#include "files/ReglasAntesDeCalcular.h"
 #include "state/ErrorEjecucion.h"
 #include "state/General.h"
 
@@ -32,36 +36,17 @@ namespace texalon {
 
 namespace {
 
-// Section kinds of a flexure file and shapes of a confinement file.
+// Section kinds of a flexure file.
 constexpr Entero kRectangular = 1;
 constexpr Entero kSeccionTe = 2;
-constexpr Entero kFormaMinima = 1;
-constexpr Entero kFormaRectangular = 3;
-
-// The bounds of the screens' fields.
-constexpr double kLargoMinimo = 0.01;  // m
-constexpr double kLargoMaximo = 10.0;  // m
-constexpr double kAreaMinima = 0.01;  // cm²
-constexpr double kAreaMaxima = 1000.0;  // cm²
-constexpr double kFckMinimo = 15.0;
-constexpr double kFckMaximo = 50.0;
-constexpr double kFykMinimo = 300.0;
-constexpr double kFykMaximo = 600.0;
-constexpr double kCoeficienteMinimo = 1.0;
-constexpr double kCoeficienteMaximo = 10.0;
-constexpr double kMomentoMaximo = 100000.0;  // mkN
-constexpr double kIncrMinimo = 1.0;
-constexpr double kIncrMaximo = 100.0;
-constexpr double kAxilMaximo = 1000000.0;  // kN
-// The long side of a rectangular column stays below this many times the short side.
-constexpr double kEsbeltezMaxima = 1.5;
 
 // The one file of this process, written anew for every input and removed when it ends.
 class FicheroDelProceso {
 public:
-    FicheroDelProceso()
+    // The batch command tells the kind of a project file by its extension.
+    explicit FicheroDelProceso(const char* extension)
         : ruta_((std::filesystem::temp_directory_path() /
-                 ("texalon_fuzz_lectores_" + std::to_string(::getpid()) + ".txt"))
+                 ("texalon_fuzz_lectores_" + std::to_string(::getpid()) + extension))
                     .string())
     {
     }
@@ -95,10 +80,11 @@ private:
     std::string ruta_;
 };
 
-FicheroDelProceso& Fichero()
+FicheroDelProceso& Fichero(bool flexion)
 {
-    static FicheroDelProceso fichero;
-    return fichero;
+    static FicheroDelProceso flexionF(".vmf");
+    static FicheroDelProceso confinamiento(".vmc");
+    return flexion ? flexionF : confinamiento;
 }
 
 // The readers tell the user of a faulty file; the fuzzer only checks that something is told.
@@ -120,47 +106,6 @@ struct Avisos {
 void Exige(bool condicion)
 {
     if (!condicion) Hallazgo();
-}
-
-bool Entre(double valor, double minimo, double maximo) { return valor >= minimo && valor <= maximo; }
-
-bool EsLargo(double valor) { return Entre(valor, kLargoMinimo, kLargoMaximo); }
-
-bool CoeficientesAdmitidos(const General& g)
-{
-    return Entre(g.GC, kCoeficienteMinimo, kCoeficienteMaximo) && Entre(g.GS, kCoeficienteMinimo, kCoeficienteMaximo) &&
-           Entre(g.GR, kCoeficienteMinimo, kCoeficienteMaximo);
-}
-
-// What the flexure screens of the kind would let the user calculate.
-bool FlexionAdmitida(const General& g, Entero tipo)
-{
-    const bool es_t = tipo == kSeccionTe;
-    if (tipo != kRectangular && !es_t) return false;
-    if (!EsLargo(g.ANCHO) || !EsLargo(g.CANTO) || !EsLargo(g.RECUB) || !EsLargo(g.ANCHOR)) return false;
-    if (es_t && (!EsLargo(g.ANCHOALMA) || !EsLargo(g.CANTOALA))) return false;
-    if (!Entre(g.ASI, kAreaMinima, kAreaMaxima) || !Entre(g.ASS, 0.0, kAreaMaxima)) return false;
-    if (!Entre(g.FCK, kFckMinimo, kFckMaximo) || !Entre(g.FYK, kFykMinimo, kFykMaximo)) return false;
-    if (!CoeficientesAdmitidos(g)) return false;
-    if (g.RECUB > g.CANTO / 2.0) return false;
-    if (es_t) {
-        if (g.ANCHOALMA > g.ANCHO || g.CANTOALA > g.CANTO || g.ANCHOR > g.ANCHOALMA) return false;
-    } else if (g.ANCHOR > g.ANCHO) {
-        return false;
-    }
-    return Entre(g.MCP, -kMomentoMaximo, kMomentoMaximo) && Entre(g.MD, -kMomentoMaximo, kMomentoMaximo);
-}
-
-// What the confinement screen would let the user calculate.
-bool ConfinamientoAdmitido(const General& g)
-{
-    if (g.SECCION < kFormaMinima || g.SECCION > kFormaRectangular) return false;
-    if (!EsLargo(g.DIAM) || !EsLargo(g.LADOMENOR)) return false;
-    if (!Entre(g.INCR, kIncrMinimo, kIncrMaximo) || !Entre(g.NCP, -kAxilMaximo, kAxilMaximo)) return false;
-    if (!Entre(g.FCK, kFckMinimo, kFckMaximo) || !CoeficientesAdmitidos(g)) return false;
-    if (g.SECCION == kFormaRectangular && (g.LADOMENOR > g.DIAM || !(g.DIAM < kEsbeltezMaxima * g.LADOMENOR)))
-        return false;
-    return true;
 }
 
 // A refused or faulty file leaves the defaults; the state was fresh, so every value of the
@@ -190,13 +135,13 @@ void ExigeFinitos(const General& g, const Arreglo<double>& valores)
 void ExigeIdaYVueltaFlexion(General& g, Entero tipo)
 {
     Avisos avisos;
-    GrabaFlexion(g, Fichero().Ruta(), tipo, avisos.Funcion());
+    GrabaFlexion(g, Fichero(true).Ruta(), tipo, avisos.Funcion());
     Exige(!g.F_ERROR && avisos.cuantos == 0);
 
     General leido;
     ValoresIniciales(leido);
     Entero tipo_leido = 0;
-    LeeFlexion(leido, Fichero().Ruta(), tipo_leido, avisos.Funcion());
+    LeeFlexion(leido, Fichero(true).Ruta(), tipo_leido, avisos.Funcion());
     Exige(!leido.F_ERROR && avisos.cuantos == 0 && tipo_leido == tipo);
     Exige(leido.ANCHO == g.ANCHO && leido.CANTO == g.CANTO && leido.RECUB == g.RECUB);
     Exige(leido.ANCHOALMA == g.ANCHOALMA && leido.CANTOALA == g.CANTOALA);
@@ -209,54 +154,45 @@ void ExigeIdaYVueltaFlexion(General& g, Entero tipo)
 void ExigeIdaYVueltaConfina(General& g)
 {
     Avisos avisos;
-    GrabaConfina(g, Fichero().Ruta(), avisos.Funcion());
+    GrabaConfina(g, Fichero(false).Ruta(), avisos.Funcion());
     Exige(!g.F_ERROR && avisos.cuantos == 0);
 
     General leido;
     ValoresIniciales(leido);
-    LeeConfina(leido, Fichero().Ruta(), avisos.Funcion());
+    LeeConfina(leido, Fichero(false).Ruta(), avisos.Funcion());
     Exige(!leido.F_ERROR && avisos.cuantos == 0);
     Exige(leido.SECCION == g.SECCION && leido.DIAM == g.DIAM && leido.LADOMENOR == g.LADOMENOR);
     Exige(leido.FCK == g.FCK && leido.GC == g.GC && leido.GS == g.GS && leido.GR == g.GR);
     Exige(leido.NCP == g.NCP && leido.INCR == g.INCR);
 }
 
-// A Calculate on data the screens accept; a run-time error there is a finding.
-ResultadoCalculo SinErrorDeEjecucion(General& g, Entero seccion, bool flexion)
+// The outcome of the batch command's path on values that the fields accept: calculated, every
+// result finite; or stopped by the initial strain over its limit; or an overflow.
+void ExigeCalculoCorrecto(const calculo::CalculoFichero& calculo)
 {
-    try {
-        return flexion ? CalculaFlexion(g, seccion, nullptr) : CalculaConfinamiento(g, seccion, nullptr);
-    } catch (const ErrorEjecucion&) {
-        Hallazgo();
+    const General& g = calculo.g;
+    if (!calculo.Correcto()) {
+        Exige(calculo.errores.size() == 1);
+        const std::string& error = calculo.errores.front();
+        Exige(error == kMensajePredeformacion ||
+              error == calculo::MensajeErrorEjecucion(ErrorEjecucion::kDesbordamiento));
+        return;
     }
-}
-
-void CalculaFlexionAdmitida(General& g, Entero tipo)
-{
-    const ResultadoCalculo resultado = SinErrorDeEjecucion(g, tipo, true);
-    ExigeFinito(g.EPS0);
-    if (resultado.predeformacionExcesiva) return;
-
     Exige(g.F_CALCULADO);
-    for (const Arreglo<double>* valores :
-         {&g.MU, &g.FN, &g.MRB, &g.XRB, &g.MLIMSR, &g.MLIMCR, &g.XLIM, &g.EPSC, &g.EPSSI, &g.EPSSS, &g.EPSR})
-        ExigeFinitos(g, *valores);
-    for (int t = 1; t <= g.NTIPOS; ++t)
-        for (int n = 1; n <= g.MAXCAPAS; ++n) {
-            const std::string& pivote = g.PIVOTE(t, n);
-            Exige(pivote == "R" || pivote == "B" || pivote == "A");
-        }
-    ExigeFinito(g.MUSR);
-    ExigeFinito(g.MUMAX);
-}
-
-void CalculaConfinamientoAdmitido(General& g)
-{
-    const ResultadoCalculo resultado = SinErrorDeEjecucion(g, g.SECCION, false);
     ExigeFinito(g.EPS0);
-    if (resultado.predeformacionExcesiva) return;
-
-    Exige(g.F_CALCULADO);
+    if (calculo.clase == ClaseFichero::Flexion) {
+        for (const Arreglo<double>* valores :
+             {&g.MU, &g.FN, &g.MRB, &g.XRB, &g.MLIMSR, &g.MLIMCR, &g.XLIM, &g.EPSC, &g.EPSSI, &g.EPSSS, &g.EPSR})
+            ExigeFinitos(g, *valores);
+        for (int t = 1; t <= g.NTIPOS; ++t)
+            for (int n = 1; n <= g.MAXCAPAS; ++n) {
+                const std::string& pivote = g.PIVOTE(t, n);
+                Exige(pivote == "R" || pivote == "B" || pivote == "A");
+            }
+        ExigeFinito(g.MUSR);
+        ExigeFinito(g.MUMAX);
+        return;
+    }
     for (const Arreglo<double>* valores : {&g.WR, &g.WWD, &g.EPSRC, &g.SIGMAR, &g.TENSCONF, &g.RESU})
         ExigeFinitos(g, *valores);
     for (int t = 1; t <= g.NTIPOS; ++t)
@@ -264,13 +200,29 @@ void CalculaConfinamientoAdmitido(General& g)
     ExigeFinito(g.RESUMAX);
 }
 
+// The file through the batch command's path. What the reader took, the command takes too; a
+// value that a field refuses stops it with that field's message, and the rest is calculated.
+void CalculaComoElProgramaDeCalculo(const std::string& ruta, const General& leido, Entero tipo)
+{
+    const calculo::CalculoFichero calculo = calculo::CalculaFichero(ruta);
+    Exige(calculo.leido);
+    const std::optional<CampoRechazado> rechazo =
+        calculo.clase == ClaseFichero::Flexion ? CampoQueRechazaLaFlexion(leido, tipo) : CampoQueRechazaElConfinamiento(leido);
+    if (rechazo) {
+        Exige(calculo.errores == std::vector<std::string>{rechazo->control + ": " + rechazo->mensaje});
+        return;
+    }
+    ExigeCalculoCorrecto(calculo);
+}
+
 void PruebaFlexion()
 {
+    const std::string& ruta = Fichero(true).Ruta();
     General g;
     ValoresIniciales(g);
     Avisos avisos;
     Entero tipo = 0;
-    LeeFlexion(g, Fichero().Ruta(), tipo, avisos.Funcion());
+    LeeFlexion(g, ruta, tipo, avisos.Funcion());
     // Only a fault of the file is told, and it always refuses the file.
     Exige(!avisos.vacio && (avisos.cuantos == 0 || g.F_ERROR));
     if (g.F_ERROR) {
@@ -278,27 +230,24 @@ void PruebaFlexion()
         return;
     }
     Exige(tipo == kRectangular || tipo == kSeccionTe);
-    if (!FlexionAdmitida(g, tipo)) return;
-
-    ExigeIdaYVueltaFlexion(g, tipo);
-    CalculaFlexionAdmitida(g, tipo);
+    CalculaComoElProgramaDeCalculo(ruta, g, tipo);
+    if (!CampoQueRechazaLaFlexion(g, tipo)) ExigeIdaYVueltaFlexion(g, tipo);
 }
 
 void PruebaConfina()
 {
+    const std::string& ruta = Fichero(false).Ruta();
     General g;
     ValoresIniciales(g);
     Avisos avisos;
-    LeeConfina(g, Fichero().Ruta(), avisos.Funcion());
+    LeeConfina(g, ruta, avisos.Funcion());
     Exige(!avisos.vacio && (avisos.cuantos == 0 || g.F_ERROR));
     if (g.F_ERROR) {
         ExigeValoresPorDefecto(g);
         return;
     }
-    if (!ConfinamientoAdmitido(g)) return;
-
-    ExigeIdaYVueltaConfina(g);
-    CalculaConfinamientoAdmitido(g);
+    CalculaComoElProgramaDeCalculo(ruta, g, g.SECCION);
+    if (!CampoQueRechazaElConfinamiento(g)) ExigeIdaYVueltaConfina(g);
 }
 
 }  // namespace
@@ -309,7 +258,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* datos, std::size_t lar
 {
     if (largo == 0) return 0;
     const bool flexion = datos[0] % 2 == 0;
-    texalon::Fichero().Escribe(datos + 1, largo - 1);
+    texalon::Fichero(flexion).Escribe(datos + 1, largo - 1);
     if (flexion)
         texalon::PruebaFlexion();
     else
