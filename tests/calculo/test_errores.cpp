@@ -246,6 +246,17 @@ INSTANTIATE_TEST_SUITE_P(
         ValorQueElCampoRechaza{"coeficiente_del_refuerzo", "viga.vmf",
                                "1\r\n0.4\r\n0.6\r\n0.05\r\n10\r\n0\r\n25\r\n500\r\n1.5\r\n1.15\r\n0.5\r\n0.125\r\n0\r\n0\r\n",
                                "TX_GR: El coeficiente de seguridad del refuerzo TEXALON® no puede ser menor que 1."},
+        // The file checks compare the values before their signs are dropped: a negative sheet
+        // width, cover or flange depth passes them, and its absolute value is too large.
+        ValorQueElCampoRechaza{"ancho_del_refuerzo_negativo", "viga.vmf",
+                               "1\r\n0.4\r\n0.6\r\n0.05\r\n10\r\n0\r\n25\r\n500\r\n1.5\r\n1.15\r\n1.4\r\n-0.5\r\n0\r\n0\r\n",
+                               "CO_ANCHOR: El ancho del refuerzo a disponer en la sección debe ser menor que el ancho de la sección."},
+        ValorQueElCampoRechaza{"recubrimiento_negativo", "viga.vmf",
+                               "1\r\n0.4\r\n0.6\r\n-0.4\r\n10\r\n0\r\n25\r\n500\r\n1.5\r\n1.15\r\n1.4\r\n0.125\r\n0\r\n0\r\n",
+                               "TX_RECUB: El recubrimiento de la sección debe ser menor que la mitad del canto."},
+        ValorQueElCampoRechaza{"T_canto_del_ala_negativo", "viga.vmf",
+                               "2\r\n0.4\r\n0.6\r\n0.2\r\n-0.8\r\n0.05\r\n10\r\n0\r\n25\r\n500\r\n1.5\r\n1.15\r\n1.4\r\n0.125\r\n0\r\n0\r\n",
+                               "TX_CANTOALA: El canto del ala no puede ser mayor que el canto de la sección."},
         ValorQueElCampoRechaza{"T_ancho_del_alma", "viga.vmf",
                                "2\r\n0.4\r\n0.6\r\n0.009\r\n0.2\r\n0.05\r\n10\r\n0\r\n25\r\n500\r\n1.5\r\n1.15\r\n1.4\r\n0.009\r\n0\r\n0\r\n",
                                "TX_ANCHOALMA: El ancho del alma de la sección debe ser un número mayor que cero."},

@@ -1030,6 +1030,17 @@ private slots:
         QTest::newRow("ancho del refuerzo")
             << false << "ANCHOR=0.005" << "CO_ANCHOR"
             << "El ancho del refuerzo a disponer en la sección debe ser mayor que cero.";
+        // A file's negative value passes its checks, which come before the sign is dropped.
+        // The width, which has the focus on opening, finds it first as the focus leaves it.
+        QTest::newRow("refuerzo más ancho que la sección")
+            << false << "ANCHOR=0.5" << "CO_ANCHOR" << "El ancho del refuerzo no puede ser mayor que el ancho de la sección.";
+        QTest::newRow("T refuerzo más ancho que la sección")
+            << true << "ANCHOR=0.5" << "CO_ANCHOR"
+            << "El ancho del refuerzo a disponer en la sección debe ser menor que el ancho de la sección.";
+        QTest::newRow("recubrimiento de más de medio canto")
+            << false << "RECUB=0.4" << "TX_RECUB" << "El recubrimiento de la sección debe ser menor que la mitad del canto.";
+        QTest::newRow("T ala más alta que la sección") << true << "CANTOALA=0.8" << "TX_CANTOALA"
+                                                      << "El canto del ala no puede ser mayor que el canto de la sección.";
         QTest::newRow("T ancho") << true << "ANCHO=0.005;ANCHOALMA=0.005;ANCHOR=0.005" << "TX_ANCHO"
                                  << "El ancho de la sección debe ser un número mayor que cero.";
         QTest::newRow("T ancho del alma") << true << "ANCHOALMA=0.005;ANCHOR=0.005" << "TX_ANCHOALMA"
