@@ -6,7 +6,9 @@
 
 #include <QApplication>
 #include <QComboBox>
+#include <QDialog>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QTest>
 #include <fstream>
 #include <map>
@@ -104,6 +106,21 @@ void PruebaDePantalla::EscribeValores(General& g, const QString& valores)
         else
             g.*campos.at(partes.first()) = partes.last().toDouble();
     }
+}
+
+std::function<void(QDialog&)> PruebaDePantalla::CorrigeCoeficiente(const char* control, const QString& nuevo,
+                                                                   bool& enfocado)
+{
+    return [nombre = QString::fromLatin1(control), nuevo, &enfocado](QDialog& dialogo) {
+        dialogo.activateWindow();
+        auto* campo = dialogo.findChild<QLineEdit*>(nombre);
+        enfocado = QTest::qWaitForWindowActive(&dialogo) &&
+                   QTest::qWaitFor([campo] { return QApplication::focusWidget() == campo; }) &&
+                   !campo->text().isEmpty() && campo->selectedText() == campo->text();
+        QTest::keyClicks(campo, nuevo);
+        QTest::keyClick(campo, Qt::Key_Tab);
+        QTest::mouseClick(dialogo.findChild<QPushButton*>(QStringLiteral("CM_ACEPTAR")), Qt::LeftButton);
+    };
 }
 
 void PruebaDePantalla::CierraPantalla()

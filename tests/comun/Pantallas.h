@@ -8,10 +8,12 @@
 #include <QObject>
 #include <QString>
 #include <QStringList>
+#include <functional>
 #include <memory>
 #include <string>
 
 class QComboBox;
+class QDialog;
 class QLineEdit;
 class QWidget;
 
@@ -55,6 +57,11 @@ protected:
     // Values written into the state as a project file leaves them, "ANCHO=0.005;ASI=0.004":
     // values that no field has taken.
     static void EscribeValores(General& g, const QString& valores);
+
+    // The user in FM_COEF as Calculate opens it on a refused coefficient: notes whether the
+    // control had the focus with its whole text selected, types the new value over it, leaves
+    // it with Tab and accepts.
+    static std::function<void(QDialog&)> CorrigeCoeficiente(const char* control, const QString& nuevo, bool& enfocado);
 
     // The end of a test: the screen closed, its prompt answered No, the doubles gone.
     void CierraPantalla();

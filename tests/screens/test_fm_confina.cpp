@@ -875,16 +875,7 @@ private slots:
     {
         Abre(',', [](General& g) { g.GS = 0.5; });
         bool enfocado = false;
-        doble_->ventanas.alMostrar = [&enfocado](QDialog& dialogo) {
-            dialogo.activateWindow();
-            QVERIFY(QTest::qWaitForWindowActive(&dialogo));
-            auto* campo = dialogo.findChild<QLineEdit*>(QStringLiteral("TX_GS"));
-            enfocado = QTest::qWaitFor([campo] { return QApplication::focusWidget() == campo; }) &&
-                       campo->selectedText() == QStringLiteral("0,50");
-            QTest::keyClicks(campo, QStringLiteral("1,15"));
-            QTest::keyClick(campo, Qt::Key_Tab);
-            QTest::mouseClick(dialogo.findChild<QPushButton*>(QStringLiteral("CM_ACEPTAR")), Qt::LeftButton);
-        };
+        doble_->ventanas.alMostrar = CorrigeCoeficiente("TX_GS", QStringLiteral("1,15"), enfocado);
         Calcula();
         QCOMPARE(Mensajes(), QStringList{QStringLiteral("El coeficiente de seguridad del acero no puede ser menor de 1.")});
         QCOMPARE(doble_->ventanas.mostradas, QStringList{QStringLiteral("FM_COEF")});

@@ -1072,16 +1072,7 @@ private slots:
         // A coefficient of 0 from a file would divide by zero: Calculate opens the dialog on it.
         Abre(false, ',', QStringLiteral("GC=0"));
         bool enfocado = false;
-        doble_->ventanas.alMostrar = [&enfocado](QDialog& dialogo) {
-            dialogo.activateWindow();
-            QVERIFY(QTest::qWaitForWindowActive(&dialogo));
-            auto* campo = dialogo.findChild<QLineEdit*>(QStringLiteral("TX_GC"));
-            enfocado = QTest::qWaitFor([campo] { return QApplication::focusWidget() == campo; }) &&
-                       campo->selectedText() == QStringLiteral("0,00");
-            QTest::keyClicks(campo, QStringLiteral("1,5"));
-            QTest::keyClick(campo, Qt::Key_Tab);
-            QTest::mouseClick(dialogo.findChild<QPushButton*>(QStringLiteral("CM_ACEPTAR")), Qt::LeftButton);
-        };
+        doble_->ventanas.alMostrar = CorrigeCoeficiente("TX_GC", QStringLiteral("1,5"), enfocado);
         Calcula();
         QCOMPARE(Mensajes(), QStringList{QStringLiteral("El coeficiente de seguridad del hormigón no puede ser menor que 1.")});
         QCOMPARE(doble_->ventanas.mostradas, QStringList{QStringLiteral("FM_COEF")});
