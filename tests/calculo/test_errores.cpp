@@ -192,6 +192,22 @@ TEST(ErroresCalculo, LaRelacionDeLadosSoloSeMideEnElRectangulo)
     EXPECT_EQ(ejecucion.errores, "");
 }
 
+// Both ends of a field's range pass it: the strengths at their greatest and the coefficients at
+// their least are calculated.
+TEST(ErroresCalculo, UnValorEnElLimiteDeSuCampoSeCalcula)
+{
+    DirectorioTemporal directorio;
+    const std::string viga = directorio.Escribe(
+        "viga.vmf", "1\r\n0.4\r\n0.6\r\n0.05\r\n10\r\n0\r\n50\r\n600\r\n1\r\n1\r\n1\r\n0.125\r\n0\r\n0\r\n");
+    const std::string pilar = directorio.Escribe("pilar.vmc", "1\r\n0.5\r\n0.4\r\n50\r\n1\r\n1\r\n1\r\n0\r\n1\r\n");
+    const std::string flojo = directorio.Escribe("flojo.vmc", "1\r\n0.5\r\n0.4\r\n15\r\n1.5\r\n1.15\r\n1.4\r\n0\r\n1\r\n");
+    const Ejecucion ejecucion = EjecutaCalculo({viga, pilar, flojo});
+    EXPECT_EQ(ejecucion.estado, 0);
+    EXPECT_EQ(ejecucion.errores, "");
+    for (const std::string& fichero : {viga, pilar, flojo})
+        EXPECT_TRUE(Contiene(ejecucion.salida, fichero + ": ")) << fichero;
+}
+
 // Every value that the file checks take and a field refuses, file by file: the file fails with
 // the field's message, and is not calculated.
 struct ValorQueElCampoRechaza {

@@ -72,6 +72,36 @@ TEST(Predeformacion, SeccionTConElEjeEnElAlma)
     EXPECT_EQ(A(g.EPS0, 8), "0.00109378");
 }
 
+TEST(Predeformacion, SeccionTConElEjeEnElAlmaYArmaduraSuperiorPorLosMomentosEstaticos)
+{
+    General g = ProyectoPorDefecto();
+    g.CANTOALA = 0.05;
+    g.ASI = 30.0;
+    g.ASS = 10.0;
+    // The axis of the cracked T worked out on its own: the first moments of the flange, of the
+    // web below it and of both bars balance, found by bisection between the flange and the
+    // bottom bars; I about that axis.
+    const double EC = 8500.0 * std::cbrt(25.0 + 8.0);
+    const double N = 200000.0 / EC;
+    const double b = 0.4, bw = 0.2, hf = 0.05, h = 0.6, r = 0.05, d = h - r;
+    const double A1 = 30.0 / 10000.0, A2 = 10.0 / 10000.0;
+    const auto momentos = [&](double X) {
+        return b * hf * (X - hf / 2.0) + bw * (X - hf) * (X - hf) / 2.0 + N * A2 * (X - r) - N * A1 * (d - X);
+    };
+    double bajo = hf, alto = d;
+    for (int i = 0; i < 200; ++i)
+        (momentos((bajo + alto) / 2.0) > 0.0 ? alto : bajo) = (bajo + alto) / 2.0;
+    const double X = (bajo + alto) / 2.0;
+    const double I = b * hf * hf * hf / 12.0 + b * hf * (X - hf / 2.0) * (X - hf / 2.0) +
+                     bw * (X - hf) * (X - hf) * (X - hf) / 3.0 + N * A2 * (X - r) * (X - r) + N * A1 * (d - X) * (d - X);
+    EXPECT_EQ(A(X, 6), "0.210598");
+    EXPECT_EQ(A(I, 8), "0.00369351");
+
+    const SeccionFisurada f = AnalisisElastico(g, kSeccionT);
+    EXPECT_NEAR(f.X, X, 1e-12);
+    EXPECT_NEAR(f.I, I, 1e-15);
+}
+
 TEST(Predeformacion, SeccionTConElEjeEnLaAlaEsLaRectangular)
 {
     General g = ProyectoPorDefecto();
@@ -401,21 +431,33 @@ struct RoturaAMano {
         Deformaciones e;
     };
 
-    Resultado Resuelve() const
+    // The depth where the concrete is at 0.0035 and the sheet at its design strain together.
+    double Xrb() const { return h * 0.0035 / (0.0035 + eps0 + epsd); }
+
+    // The moment of the diagram through R and B about the bottom face: the top bars at their
+    // own strain there, the bottom bars at their yield force whatever their strain.
+    double MomentoRB() const
     {
-        // Concrete at 0.0035 and sheet at its design strain together: where R and B meet.
-        const double xrb = h * 0.0035 / (0.0035 + eps0 + epsd);
-        const Deformaciones rb = Plano('B', xrb);
+        const double xrb = Xrb();
+        const double eTop = (xrb - r) * 0.0035 / xrb;
+        return Hormigon(xrb) * (h - 0.4 * xrb) + Superior(eTop) * d() - asi * 1e-4 * fyd() * 1000.0 * r;
+    }
+
+    // The section without its sheet: from the depth where the bottom bars are at 0.01 and the
+    // concrete at 0.0035 together, turning about A above it or about B below it.
+    Resultado SinLamina() const
+    {
+        RoturaAMano sin = *this;
+        sin.anchor = 0.0;
+        const double x0 = d() * 0.0035 / 0.0135;
         Resultado res{};
-        double bajo = 0.0;
-        double alto = xrb;
-        if (Balance(xrb, rb) < 0.0) {
-            res.pivote = 'B';
-            bajo = xrb;
-            alto = h;
-        } else {
-            res.pivote = rb.es1 <= 0.01 ? 'R' : 'A';
-        }
+        res.pivote = sin.Balance(x0, sin.Plano('B', x0)) >= 0.0 ? 'A' : 'B';
+        return sin.Biseca(res, res.pivote == 'A' ? 0.0 : x0, res.pivote == 'A' ? x0 : h);
+    }
+
+    // A plain bisection on the balance of forces, to the last bit of the double.
+    Resultado Biseca(Resultado res, double bajo, double alto) const
+    {
         for (int i = 0; i < 200; ++i) {
             const double x = (bajo + alto) / 2.0;
             if (Balance(x, Plano(res.pivote, x)) > 0.0)
@@ -427,6 +469,19 @@ struct RoturaAMano {
         res.e = Plano(res.pivote, res.x);
         res.mu = Momento(res.x, res.e);
         return res;
+    }
+
+    Resultado Resuelve() const
+    {
+        const double xrb = Xrb();
+        const Deformaciones rb = Plano('B', xrb);
+        Resultado res{};
+        if (Balance(xrb, rb) < 0.0) {
+            res.pivote = 'B';
+            return Biseca(res, xrb, h);
+        }
+        res.pivote = rb.es1 <= 0.01 ? 'R' : 'A';
+        return Biseca(res, 0.0, xrb);
     }
 };
 
@@ -458,6 +513,51 @@ TEST(RoturaRectangular, ArmaduraSuperiorElasticaPorUnEquilibrioAMano)
     EXPECT_NEAR(g.EPSC(1, 1), esperado.e.ec, 1e-9);
     // The bars above the axis add to the moment of the section without them (238.47).
     EXPECT_GT(g.MU(1, 1), 238.47);
+}
+
+// The default beam, type L with one layer, as the hand-worked analysis takes it: KM = 0.9404
+// capped at 0.9, so the design strain is 0.9 × 0.015 / 1.4.
+RoturaAMano VigaPorDefectoAMano()
+{
+    return {0.4, 0.6, 0.05, 10.0, 0.0, 25.0, 500.0, 1.5, 1.15, 230000.0, 0.111, 1, 0.125, 0.0, 0.9 * 0.015 / 1.4};
+}
+
+TEST(RoturaRectangular, MomentoRBConLaArmaduraSuperiorEnFluenciaYElastica)
+{
+    for (const double recubrimiento : {0.05, 0.07}) {
+        SCOPED_TRACE(recubrimiento);
+        General g = ProyectoPorDefecto();
+        g.ASS = 10.0;
+        g.RECUB = recubrimiento;
+        Rectangular(g, 1);
+        RoturaAMano a = VigaPorDefectoAMano();
+        a.ass = 10.0;
+        a.r = recubrimiento;
+        // With 5 cm of cover the top bars at the R-B depth have yielded; with 7 cm they have not.
+        const double eTop = (a.Xrb() - a.r) * 0.0035 / a.Xrb();
+        EXPECT_EQ(eTop >= a.eyd(), recubrimiento == 0.05);
+        EXPECT_NEAR(g.XRB(1, 1), a.Xrb(), 1e-15);
+        EXPECT_NEAR(g.MRB(1, 1), a.MomentoRB(), 1e-9);
+        EXPECT_EQ(A(a.MomentoRB(), 2), recubrimiento == 0.05 ? "605.70" : "566.35");
+    }
+}
+
+TEST(RoturaRectangular, PivoteAConUnaPredeformacionGrandePorUnEquilibrioAMano)
+{
+    // An initial strain of 1.8 ‰ lifts the R-B depth until the bottom bars there pass 0.01.
+    General g = ProyectoPorDefecto();
+    g.EPS0 = 0.0018;
+    Rectangular(g, 1);
+    RoturaAMano a = VigaPorDefectoAMano();
+    a.eps0 = 0.0018;
+    const RoturaAMano::Resultado esperado = a.Resuelve();
+    ASSERT_EQ(esperado.pivote, 'A');
+    EXPECT_EQ(g.PIVOTE(1, 1), "A");
+    EXPECT_NEAR(g.MU(1, 1), esperado.mu, 1e-4);
+    EXPECT_NEAR(g.FN(1, 1), esperado.x, 1e-8);
+    EXPECT_NEAR(g.EPSSI(1, 1), 0.01, 1e-15);
+    EXPECT_NEAR(g.EPSR(1, 1), esperado.e.er, 1e-9);
+    EXPECT_NEAR(g.EPSC(1, 1), esperado.e.ec, 1e-9);
 }
 
 TEST(RoturaRectangular, VigaPequenaLlenaDeAceroGiraEnBPorUnEquilibrioAMano)
@@ -603,6 +703,21 @@ TEST(MomentoSinRefuerzo, SeccionPorDefecto)
     g.MUSR = 0.0;
     MomentoSinRefuerzo(g, g.ANCHO, g.CANTO, g.RECUB, g.ASI, g.ASS, g.FCK, g.FYK);
     EXPECT_EQ(A(g.MUSR, 2), "222.45");
+}
+
+TEST(MomentoSinRefuerzo, ArmaduraSuperiorEnPivoteAPorUnEquilibrioAMano)
+{
+    General g = ProyectoPorDefecto();
+    g.ASS = 10.0;
+    SinRefuerzo(g);
+    RoturaAMano a = VigaPorDefectoAMano();
+    a.ass = 10.0;
+    const RoturaAMano::Resultado esperado = a.SinLamina();
+    ASSERT_EQ(esperado.pivote, 'A');
+    // The top bars stay short of their yield: their force follows their strain.
+    ASSERT_LT(std::fabs(esperado.e.es2), a.eyd());
+    EXPECT_EQ(A(esperado.mu, 2), "224.24");
+    EXPECT_NEAR(g.MUSR, esperado.mu, 1e-4);
 }
 
 TEST(MomentoSinRefuerzo, SinArmaduraEsPracticamenteCero)

@@ -75,7 +75,12 @@ def sitios(fichero):
                 resultado.append((numero, clase, linea[: m.start()] + nuevo + linea[m.end():]))
         for m in CONSTANTE.finditer(parte):
             texto = m.group(1)
-            cambiado = str(int(texto) + 1) if "." not in texto else repr(float(texto) * 1.1)
+            # A tenth more of a real, one more of an integer; a real zero becomes one, since a
+            # tenth more of it would be the same zero.
+            if "." not in texto:
+                cambiado = str(int(texto) + 1)
+            else:
+                cambiado = repr(float(texto) * 1.1) if float(texto) != 0.0 else "1.0"
             resultado.append((numero, "constante", linea[: m.start()] + cambiado + linea[m.end():]))
         if ASIGNACION.match(parte) and not re.match(r"\s*(const|constexpr|auto|static|double|int|Entero|bool)\b", parte):
             resultado.append((numero, "sentencia", ASIGNACION.match(parte).group(1) + ";  // borrada\n"))
