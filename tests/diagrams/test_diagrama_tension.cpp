@@ -263,6 +263,18 @@ TEST(DiagramaTension, TensionEnElMedioRedondeaAlParYSeQueda)
     EXPECT_EQ(FinTension(d), 2500.5);
 }
 
+TEST(DiagramaTension, ElUltimoTipoFijaLasEscalasSiEsElMasLargoYElMasFuerte)
+{
+    General g = EstadoCaracteristicas(1);
+    FijaTipo(g, 1, 0.01, 100000.0);
+    FijaTipo(g, 2, 0.01, 100000.0);
+    FijaTipo(g, 3, 0.02, 200000.0);  // 20 per mil, 4000 N/mm²
+    GeneralDibujo d;
+    DiagramaTension(g, d, 1, ',');
+    EXPECT_EQ(FinDeformacion(d), 0.02);
+    EXPECT_EQ(FinTension(d), 4000.0);
+}
+
 TEST(DiagramaTension, DeformacionQueRedondeaAParSeQuedaYLasEtiquetasNoSonRedondas)
 {
     General g = EstadoCaracteristicas(1);

@@ -443,6 +443,15 @@ private slots:
         QCOMPARE(Estado().CANTOALA, 0.2);
     }
 
+    void seccionTCantoDelAlaIgualAlCantoSeAcepta()
+    {
+        Abre(true);
+        Escribe("TX_CANTOALA", QStringLiteral("0,6"));
+        QVERIFY(Mensajes().isEmpty());
+        QCOMPARE(Estado().CANTOALA, 0.6);
+        QCOMPARE(Campo("TX_CANTOALA")->text(), QStringLiteral("0,600"));
+    }
+
     void seccionTCantoMenorQueElAlaEsBlando()
     {
         Abre(true);
