@@ -32,6 +32,9 @@ echo "Prefijo de Wine listo en $(( $(date +%s) - inicio )) s: $prefijo"
 fallos=0
 for ajuste in "${AJUSTES_REGIONALES[@]}"; do
   echo "== Pruebas de Windows bajo Wine con $ajuste =="
+  # Wine writes the regional setting into the prefix's registry when the first program of a new
+  # setting starts; tests started two at a time could read the one before. One program first.
+  LC_ALL=$ajuste LANG=$ajuste "$emulador" cmd /c exit >/dev/null 2>&1 || true
   LC_ALL=$ajuste LANG=$ajuste ctest --test-dir "$construccion" --output-on-failure -j"$(nproc)" || fallos=1
 done
 echo "Pruebas de Windows en $(( $(date +%s) - inicio )) s"

@@ -2,10 +2,12 @@
 
 #include "calculo/Diagrama.h"
 #include "calculo/Informe.h"
+#include "calculo/Miembros.h"
 #include "calculo/Proyecto.h"
 #include "calculo/SalidaCsv.h"
 #include "calculo/SalidaJson.h"
 #include "calculo/SalidaTexto.h"
+#include "calculo/Tabla.h"
 #include "calculo/Texto.h"
 #include "state/Rutas.h"
 
@@ -13,6 +15,8 @@
 #include <array>
 #include <charconv>
 #include <filesystem>
+#include <fstream>
+#include <map>
 #include <optional>
 #include <ostream>
 #include <string_view>
@@ -29,6 +33,8 @@ struct Orden {
     bool json = false;
     bool csv = false;
     bool ayuda = false;
+    bool tablas = false;  // the names are tables of members
+    std::optional<std::string> plantilla;  // the kind of member of --plantilla
     std::optional<Diagrama> diagrama;
     int tipo = 1;
     int capas = 1;
@@ -58,7 +64,7 @@ bool EsOpcion(const std::string& argumento) { return argumento.size() > 1 && arg
 bool LlevaValor(const std::string& opcion)
 {
     return opcion == "--diagrama" || opcion == "--tipo" || opcion == "--capas" || opcion == "--svg" ||
-           opcion == "--informe";
+           opcion == "--informe" || opcion == "--plantilla";
 }
 
 // A whole number in plain decimal digits from 1 to `maximo`, the whole text of it.
@@ -92,6 +98,10 @@ std::string TomaValor(Orden& orden, const std::string& opcion, const std::string
         const std::optional<int> capas = NumeroHasta(valor, kCapasMaximo);
         if (!capas) return ErrorNumero(opcion, valor, kCapasMaximo);
         orden.capas = *capas;
+    } else if (opcion == "--plantilla") {
+        if (!Plantilla(valor, '.'))
+            return "tipo «" + valor + "» de --plantilla no reconocido: los tipos son rectangular, T y confinamiento.";
+        orden.plantilla = valor;
     } else {
         if (valor.empty()) return "falta el valor de la opción «" + opcion + "».";
         (opcion == "--svg" ? orden.carpetaSvg : orden.carpetaInforme) = valor;
@@ -116,6 +126,8 @@ Orden Interpreta(const std::vector<std::string>& argumentos)
             orden.opciones.push_back(argumento);
         } else if (argumento == "--csv") {
             orden.csv = true;
+        } else if (argumento == "--tabla") {
+            orden.tablas = true;
         } else if (argumento == "--help" || argumento == "-h") {
             orden.ayuda = true;
         } else if (LlevaValor(argumento)) {
@@ -129,6 +141,11 @@ Orden Interpreta(const std::vector<std::string>& argumentos)
         }
     }
     if (orden.ayuda) return orden;
+    if (orden.plantilla) {
+        if (!orden.ficheros.empty() || orden.opciones.size() > 1 || orden.csv || orden.tablas)
+            orden.error = "la opción «--plantilla» no se combina con otras opciones ni con nombres de fichero.";
+        return orden;
+    }
     const std::optional<std::string> contraCsv = orden.csv ? OpcionContraCsv(orden) : std::nullopt;
     if (orden.ficheros.empty())
         orden.error = "falta el nombre de algún fichero.";
@@ -201,15 +218,16 @@ std::optional<ListaDiagrama> DiagramaDelFichero(CalculoFichero& calculo, const O
     return lista;
 }
 
-// The results of one file, or its messages; the answer says whether it succeeded.
-bool ProcesaFichero(const std::string& fichero, const Orden& orden, char separador, const Dispositivos& dispositivos,
-                    bool& primerBloque, std::ostream& salida, std::ostream& errores)
+// What the command gives for one calculation, a file's or a member's: its diagram and report
+// when asked, its messages, its results. The answer says whether it succeeded.
+bool Entrega(CalculoFichero& calculo, const Orden& orden, char separador, const Dispositivos& dispositivos,
+             bool& primerBloque, std::ostream& salida, std::ostream& errores)
 {
-    CalculoFichero calculo = CalculaFichero(fichero);
     const std::optional<ListaDiagrama> lista = DiagramaDelFichero(calculo, orden, separador, dispositivos.svg);
     GuardaInforme(calculo, orden, separador, dispositivos.pdf);
+    const std::string procedencia = Procedencia(calculo);
     for (const std::string& mensaje : calculo.errores)
-        errores << fichero << ": " << mensaje << '\n';
+        errores << procedencia << ": " << mensaje << '\n';
     if (orden.csv) {
         salida << FilasCsv(calculo, separador);
     } else if (orden.json) {
@@ -226,6 +244,56 @@ bool ProcesaFichero(const std::string& fichero, const Orden& orden, char separad
     return calculo.Correcto();
 }
 
+bool ProcesaFichero(const std::string& fichero, const Orden& orden, char separador, const Dispositivos& dispositivos,
+                    bool& primerBloque, std::ostream& salida, std::ostream& errores)
+{
+    CalculoFichero calculo = CalculaFichero(fichero);
+    return Entrega(calculo, orden, separador, dispositivos, primerBloque, salida, errores);
+}
+
+// Every row of a table, in its order: a refused row is told and the next goes on. A table that
+// cannot be opened or whose header cannot be used fails whole.
+bool ProcesaTabla(const std::string& tabla, const Orden& orden, char separador, const Dispositivos& dispositivos,
+                  bool& primerBloque, std::ostream& salida, std::ostream& errores)
+{
+    std::ifstream entrada(RutaUtf8(tabla), std::ios::binary);
+    if (!entrada) {
+        errores << tabla << ": no se ha podido abrir la tabla.\n";
+        return false;
+    }
+    LectorTabla lector(entrada);
+    const std::optional<Registro> primera = lector.Siguiente();
+    if (!primera) {
+        errores << tabla << ": " << (lector.Error().empty() ? "la tabla no tiene cabecera." : lector.Error()) << '\n';
+        return false;
+    }
+    const CabeceraTabla cabecera = LeeCabecera(*primera);
+    if (!cabecera.error.empty()) {
+        errores << tabla << ": " << cabecera.error << '\n';
+        return false;
+    }
+    bool todas = true;
+    std::map<std::string, std::size_t> vistos;  // each member's name and its row
+    while (const std::optional<Registro> fila = lector.Siguiente()) {
+        CalculoFichero calculo = CalculaFila(tabla, cabecera, *fila, lector.Decimales());
+        const auto [visto, nuevo] = vistos.try_emplace(calculo.elemento, calculo.fila);
+        if (!nuevo && !calculo.elemento.empty()) {
+            calculo = CalculoFichero{};
+            calculo.fichero = tabla;
+            calculo.fila = fila->linea;
+            calculo.elemento = visto->first;
+            calculo.errores.push_back("elemento «" + visto->first + "»: ya está en la fila " +
+                                      TextoEntero(static_cast<int>(visto->second)) + ".");
+        }
+        todas = Entrega(calculo, orden, separador, dispositivos, primerBloque, salida, errores) && todas;
+    }
+    if (!lector.Error().empty()) {
+        errores << tabla << ": " << lector.Error() << '\n';
+        return false;
+    }
+    return todas;
+}
+
 int ProcesaFicheros(const Orden& orden, char separador, const Dispositivos& dispositivos, std::ostream& salida,
                     std::ostream& errores)
 {
@@ -233,8 +301,9 @@ int ProcesaFicheros(const Orden& orden, char separador, const Dispositivos& disp
     bool primerBloque = true;
     if (orden.csv) salida << CabeceraCsv(separador);
     // A failure stops nothing: the next file goes on.
+    const auto procesa = orden.tablas ? &ProcesaTabla : &ProcesaFichero;
     for (const std::string& fichero : orden.ficheros)
-        todos = ProcesaFichero(fichero, orden, separador, dispositivos, primerBloque, salida, errores) && todos;
+        todos = procesa(fichero, orden, separador, dispositivos, primerBloque, salida, errores) && todos;
     return todos ? kSalidaCorrecta : kSalidaConFallos;
 }
 
@@ -247,6 +316,8 @@ std::string TextoAyuda()
            "  o: texalon-calculo [--json] --diagrama NOMBRE [--tipo N] [--capas N]\n"
            "                     [--svg CARPETA] FICHERO...\n"
            "  o: texalon-calculo --informe CARPETA [--tipo N] [--capas N] FICHERO...\n"
+           "  o: texalon-calculo --tabla [--json | --csv | --informe CARPETA] TABLA...\n"
+           "  o: texalon-calculo --plantilla rectangular|T|confinamiento\n"
            "\n"
            "Calcula cada proyecto TEXALON guardado como lo hace el botón Calcular de su\n"
            "pantalla y escribe sus resultados en la salida estándar. La extensión del nombre\n"
@@ -274,7 +345,13 @@ std::string TextoAyuda()
            "              sus mensajes en «error». Los campos van separados por «;» si el\n"
            "              separador decimal del sistema es la coma y por «,» si es el punto,\n"
            "              entre comillas si lo necesitan; UTF-8 con marca de orden de bytes\n"
-           "              y fin de línea CR LF. Solo se combina con los nombres de fichero.\n"
+           "              y fin de línea CR LF. Al final de cada fila van «elemento» (el\n"
+           "              nombre del elemento de una tabla; vacío para un fichero),\n"
+           "              «solicitado» (el momento de cálculo MD o el incremento pedido\n"
+           "              INCR, como en su campo), «sin_refuerzo» (el momento último de la\n"
+           "              sección sin reforzar, solo en flexión) y «veredicto» (el texto del\n"
+           "              veredicto de la pantalla, vacío si no muestra ninguno). Solo se\n"
+           "              combina con los nombres de fichero y con --tabla.\n"
            "  --diagrama NOMBRE\n"
            "              tras el cálculo dibuja el diagrama NOMBRE del proyecto, el mismo\n"
            "              que dibujaría su pantalla (el de la sección en T para una sección\n"
@@ -319,6 +396,34 @@ std::string TextoAyuda()
            "              ve en la pantalla: el mismo ajuste al tamaño del dibujo, las\n"
            "              formas rellenas y los textos medidos como en ella. Crea la carpeta\n"
            "              si no existe. Necesita --diagrama; no necesita pantalla gráfica.\n"
+           "  --tabla     los nombres son tablas de elementos (.csv) de una hoja de\n"
+           "              cálculo: una fila por elemento y una fila de cabecera con los\n"
+           "              nombres de las columnas, en cualquier orden y sin distinguir\n"
+           "              mayúsculas: «elemento» (el nombre, obligatorio y único en la\n"
+           "              tabla), «tipo» (rectangular, T o confinamiento) y los datos del\n"
+           "              proyecto con los nombres de --json: ANCHO, CANTO, ANCHOALMA y\n"
+           "              CANTOALA (solo T), RECUB, ASI, ASS, FCK, FYK, GC, GS, GR, ANCHOR,\n"
+           "              MCP y MD en flexión; SECCION (1 circular, 2 cuadrada, 3\n"
+           "              rectangular), DIAM, LADOMENOR, FCK, GC, GS, GR, NCP e INCR en\n"
+           "              confinamiento. Una columna que no se aplica al tipo de la fila va\n"
+           "              vacía en ella; una columna que falta o una celda vacía toman el\n"
+           "              valor de un proyecto nuevo, salvo las dimensiones de la sección\n"
+           "              (ANCHO y CANTO, ANCHOALMA y CANTOALA en T, SECCION y DIAM, y\n"
+           "              LADOMENOR en la sección rectangular), que se han de dar. Como en\n"
+           "              los campos de la pantalla, se toma el valor sin su signo. La\n"
+           "              cabecera dice el separador: «;» con coma decimal, «,» con punto\n"
+           "              decimal o el tabulador con cualquiera de los dos; los campos entre\n"
+           "              comillas como en RFC 4180; UTF-8 con o sin marca de orden de\n"
+           "              bytes, o Windows-1252. Un número con separador de miles, con\n"
+           "              unidad o con otro texto no se admite. Cada fila se comprueba como\n"
+           "              los campos de su pantalla y el fichero de proyecto, y se calcula\n"
+           "              como un fichero; una fila rechazada se dice con la tabla, la fila,\n"
+           "              el elemento, la columna, el valor escrito y el motivo (el mensaje\n"
+           "              de la pantalla para ese campo), y las demás siguen.\n"
+           "  --plantilla rectangular|T|confinamiento\n"
+           "              escribe una tabla con la cabecera de ese tipo y una fila con los\n"
+           "              valores de un proyecto nuevo, con el separador del sistema, para\n"
+           "              empezar a rellenarla. No se combina con nada más.\n"
            "  -h, --help  muestra esta ayuda y termina.\n"
            "  --          lo que sigue son nombres de fichero, aunque empiecen por «-».\n"
            "\n"
@@ -336,7 +441,9 @@ std::string TextoAyuda()
            "  0  se han calculado todos los ficheros, y dibujado sus diagramas.\n"
            "  1  algún fichero no se ha podido leer, calcular, dibujar o escribir.\n"
            "  2  error de uso: ningún fichero, una opción no reconocida o sin su valor,\n"
-           "     un valor no válido, --svg sin --diagrama o --csv con otra opción.\n";
+           "     un valor no válido, --svg sin --diagrama o --csv con otra opción.\n"
+           "Con --tabla, 1 si alguna tabla no se ha podido leer o alguna fila se ha\n"
+           "rechazado o no se ha podido calcular.\n";
 }
 
 int Ejecuta(const std::vector<std::string>& argumentos, char separador, std::ostream& salida, std::ostream& errores,
@@ -349,6 +456,10 @@ int Ejecuta(const std::vector<std::string>& argumentos, char separador, std::ost
     }
     if (orden.ayuda) {
         salida << TextoAyuda();
+        return kSalidaCorrecta;
+    }
+    if (orden.plantilla) {
+        salida << *Plantilla(*orden.plantilla, separador);
         return kSalidaCorrecta;
     }
     return ProcesaFicheros(orden, separador, dispositivos, salida, errores);

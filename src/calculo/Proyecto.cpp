@@ -82,8 +82,13 @@ CalculoFichero CalculaFichero(const std::string& fichero)
         return calculo;
     }
     ValoresIniciales(calculo.g);
-    if (Lee(calculo) && ValoresQueLosCamposAceptan(calculo)) CalculaBajoTrampa(calculo);
+    if (Lee(calculo)) CalculaLeido(calculo);
     return calculo;
+}
+
+void CalculaLeido(CalculoFichero& calculo)
+{
+    if (ValoresQueLosCamposAceptan(calculo)) CalculaBajoTrampa(calculo);
 }
 
 // The screens have no trap around Calculate, so the program would end with this message; the
@@ -92,6 +97,14 @@ std::string MensajeErrorEjecucion(int numero)
 {
     return "Se ha producido el error '" + TextoEntero(numero) +
            "' en tiempo de ejecución: " + ErrorEjecucion::DescripcionDe(numero);
+}
+
+std::string Procedencia(const CalculoFichero& calculo)
+{
+    if (calculo.fila == 0) return calculo.fichero;
+    std::string procedencia = calculo.fichero + ": fila " + TextoEntero(static_cast<int>(calculo.fila));
+    if (!calculo.elemento.empty()) procedencia += " (" + calculo.elemento + ")";
+    return procedencia;
 }
 
 std::optional<std::string_view> NombreTipo(const CalculoFichero& calculo)

@@ -6,6 +6,7 @@
 #include "files/Ficheros.h"
 #include "state/General.h"
 
+#include <cstddef>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -20,7 +21,10 @@ inline constexpr std::string_view kMensajeDatosIncorrectos = "Los datos almacena
 
 // A file read and calculated; `g` holds its whole state afterwards.
 struct CalculoFichero {
-    std::string fichero;  // the name as given
+    std::string fichero;  // the name as given; a member's table
+    // A member of a table: its name and the table's row it came from; empty and 0 for a file.
+    std::string elemento;
+    std::size_t fila = 0;
     ClaseFichero clase = ClaseFichero::Ninguna;
     Entero seccion = 0;  // section kind of line 1 of a flexure file, as read
     bool leido = false;  // the whole file read and found good
@@ -35,6 +39,15 @@ struct CalculoFichero {
 // Reads the file and, if it is good, calculates it: the flexure files also get their anchorage
 // lengths, which their screens show on request.
 CalculoFichero CalculaFichero(const std::string& fichero);
+
+// The second half of CalculaFichero, for a state that holds a project's values already read
+// and found good: refused with its field's message where a field would refuse a value,
+// calculated otherwise.
+void CalculaLeido(CalculoFichero& calculo);
+
+// Where a calculation's results and messages come from: the file's name as given, or for a
+// member of a table "TABLA: fila N (ELEMENTO)", the row being the table's line it starts on.
+std::string Procedencia(const CalculoFichero& calculo);
 
 // "rectangular", "T" or "confinamiento"; none while the file has not told its kind.
 std::optional<std::string_view> NombreTipo(const CalculoFichero& calculo);

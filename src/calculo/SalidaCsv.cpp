@@ -2,7 +2,9 @@
 
 #include "calculo/Texto.h"
 
+#include "engine/Calcular.h"
 #include "engine/Caracteristicas.h"
+#include "state/Formato.h"
 
 #include <array>
 #include <cstddef>
@@ -16,11 +18,25 @@ constexpr std::string_view kFinDeFila = "\r\n";
 constexpr std::string_view kMarcaOrden = "\xEF\xBB\xBF";  // U+FEFF in UTF-8
 
 // The columns, in their order.
-enum Columna : std::size_t { kFichero, kTipo, kRefuerzo, kCapas, kResultado, kAlcanza, kError, kColumnas };
+enum Columna : std::size_t {
+    kFichero,
+    kTipo,
+    kRefuerzo,
+    kCapas,
+    kResultado,
+    kAlcanza,
+    kError,
+    kElemento,
+    kSolicitado,
+    kSinRefuerzo,
+    kVeredicto,
+    kColumnas
+};
 using Fila = std::array<std::string, kColumnas>;
 
-constexpr std::array<std::string_view, kColumnas> kCabecera = {"fichero",   "tipo",    "refuerzo", "capas",
-                                                               "resultado", "alcanza", "error"};
+constexpr std::array<std::string_view, kColumnas> kCabecera = {
+    "fichero", "tipo", "refuerzo", "capas", "resultado", "alcanza", "error", "elemento", "solicitado", "sin_refuerzo",
+    "veredicto"};
 
 template <typename Campos>
 std::string Linea(const Campos& campos, char separadorCampos)
@@ -46,6 +62,21 @@ std::optional<std::string_view> Tipo(const CalculoFichero& calculo)
 {
     if (calculo.clase == ClaseFichero::Flexion && !calculo.leido) return std::nullopt;
     return NombreTipo(calculo);
+}
+
+// What the member must reach, as its screen's field shows it (the design moment or the increase
+// of strength), the moment of the section without the sheet as TX_MUSR shows it, and the
+// verdict's text: what a row needs to read on its own.
+void DatosDeLaSeccion(const CalculoFichero& calculo, char separadorDecimal, Fila& fila)
+{
+    const General& g = calculo.g;
+    if (calculo.clase == ClaseFichero::Flexion) {
+        fila[kSolicitado] = Formato(g.MD, "0.00", separadorDecimal);
+        fila[kSinRefuerzo] = ResultadosFlexion(g, 1, 1, separadorDecimal).MUSR;
+    } else {
+        fila[kSolicitado] = Formato(g.INCR, "0.00", separadorDecimal);
+    }
+    if (calculo.veredicto != Veredicto::Oculto) fila[kVeredicto] = std::string(Recorta(TextoVeredicto(calculo.veredicto)));
 }
 
 }  // namespace
@@ -75,12 +106,14 @@ std::string FilasCsv(const CalculoFichero& calculo, char separadorDecimal)
     const char separadorCampos = SeparadorCsv(separadorDecimal);
     Fila fila;
     fila[kFichero] = calculo.fichero;
+    fila[kElemento] = calculo.elemento;
     if (const auto tipo = Tipo(calculo)) fila[kTipo] = *tipo;
     if (!calculo.Correcto()) {
         fila[kError] = Unidos(calculo.errores);
         return Linea(fila, separadorCampos);
     }
     const General& g = calculo.g;
+    DatosDeLaSeccion(calculo, separadorDecimal, fila);
     std::string filas;
     for (int t = 1; t <= g.NTIPOS; ++t) {
         fila[kRefuerzo] = g.TIPOS(t);

@@ -19,15 +19,19 @@ char SeparadorCsv(char separadorDecimal);
 std::string CampoCsv(std::string_view texto, char separadorCampos);
 
 // The start of the table: the UTF-8 byte-order mark, so that a spreadsheet reads the accents,
-// and the header row fichero, tipo, refuerzo, capas, resultado, alcanza, error.
+// and the header row fichero, tipo, refuerzo, capas, resultado, alcanza, error, elemento,
+// solicitado, sin_refuerzo, veredicto.
 std::string CabeceraCsv(char separadorDecimal);
 
 // The rows of one file, each ended by CR LF. A calculated file has one row for each sheet type
 // and number of layers, in the grid's order (type 1 with 1 to MAXCAPAS layers first): the
 // type's name, the number of layers, the cell's text as the screen shows it with the decimal
-// separator given, and "sí" or "no" as the cell is yellow or not. A file that failed has one
-// row: its name, its kind when known (a flexure file's only once read whole) and its messages
-// joined by line ends.
+// separator given, and "sí" or "no" as the cell is yellow or not; then the member's name (for a
+// row of a table), what the section must reach (MD or INCR as its field shows it), the moment
+// without the sheet as TX_MUSR shows it (flexure only) and the verdict's text (empty when none
+// shows), so that each row reads on its own. A file that failed has one row: its name, its kind
+// when known (a flexure file's only once read whole), its messages joined by line ends and, for
+// a member, its name.
 std::string FilasCsv(const CalculoFichero& calculo, char separadorDecimal);
 
 }  // namespace texalon::calculo

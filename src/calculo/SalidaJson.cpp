@@ -203,6 +203,11 @@ std::string ObjetoJson(const CalculoFichero& calculo, const ListaDiagrama* lista
 {
     Objeto objeto;
     objeto.Texto("fichero", calculo.fichero);
+    // A member of a table: its name and its row, after the table's name.
+    if (calculo.fila != 0) {
+        objeto.Texto("elemento", calculo.elemento);
+        objeto.Miembro("fila", TextoEntero(static_cast<int>(calculo.fila)));
+    }
     if (const auto tipo = NombreTipo(calculo)) objeto.Texto("tipo", *tipo);
     if (!calculo.Correcto()) {
         objeto.Texto("error", Unidos(calculo.errores));

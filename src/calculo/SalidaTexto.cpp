@@ -107,7 +107,7 @@ std::string TextoConfinamiento(const CalculoFichero& calculo, char separador)
 
 std::string TextoResultados(const CalculoFichero& calculo, char separador)
 {
-    const std::string cabecera = calculo.fichero + ": " + DescripcionSeccion(calculo) + '\n';
+    const std::string cabecera = Procedencia(calculo) + ": " + DescripcionSeccion(calculo) + '\n';
     if (calculo.clase == ClaseFichero::Flexion) return cabecera + TextoFlexion(calculo, separador);
     return cabecera + TextoConfinamiento(calculo, separador);
 }

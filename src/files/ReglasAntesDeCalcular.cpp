@@ -9,21 +9,40 @@
 
 namespace texalon {
 
-std::optional<CampoRechazado> CampoQueRechaza(const std::vector<ReglaCampo>& reglas, const General& g,
-                                              const std::function<bool(const ReglaCampo&)>& enPantalla)
+namespace {
+
+enum class Pruebas { AlCalcular, Todas };
+
+std::optional<CampoRechazado> Rechazo(const std::vector<ReglaCampo>& reglas, const General& g,
+                                      const std::function<bool(const ReglaCampo&)>& enPantalla, Pruebas pruebas)
 {
     for (const ReglaCampo& regla : reglas) {
         if (enPantalla && !enPantalla(regla)) continue;
         // The field takes the value without its sign, as it does from the keyboard.
         const double valor = std::fabs(g.*regla.campo);
-        if (regla.maximo && valor > regla.maximo->valor) return CampoRechazado{regla.control, regla.maximo->mensaje};
-        if (regla.minimo && valor < regla.minimo->valor) return CampoRechazado{regla.control, regla.minimo->mensaje};
+        if (regla.maximo && valor > regla.maximo->valor) return CampoRechazado{regla.control, regla.maximo->mensaje, false, regla.campo};
+        if (regla.minimo && valor < regla.minimo->valor) return CampoRechazado{regla.control, regla.minimo->mensaje, false, regla.campo};
         for (const PruebaPropia& prueba : regla.propias) {
-            if (prueba.companeroBlando.empty() && !prueba.soloAlAceptar && prueba.falla(valor, g))
-                return CampoRechazado{regla.control, prueba.mensaje};
+            const bool cuenta =
+                pruebas == Pruebas::Todas || (prueba.companeroBlando.empty() && !prueba.soloAlAceptar);
+            if (cuenta && prueba.falla(valor, g)) return CampoRechazado{regla.control, prueba.mensaje, false, regla.campo};
         }
     }
     return std::nullopt;
+}
+
+}  // namespace
+
+std::optional<CampoRechazado> CampoQueRechaza(const std::vector<ReglaCampo>& reglas, const General& g,
+                                              const std::function<bool(const ReglaCampo&)>& enPantalla)
+{
+    return Rechazo(reglas, g, enPantalla, Pruebas::AlCalcular);
+}
+
+std::optional<CampoRechazado> CampoQueRechazaAlEscribir(const std::vector<ReglaCampo>& reglas, const General& g,
+                                                         const std::function<bool(const ReglaCampo&)>& enPantalla)
+{
+    return Rechazo(reglas, g, enPantalla, Pruebas::Todas);
 }
 
 namespace {
@@ -48,6 +67,19 @@ std::optional<CampoRechazado> CampoQueRechazaElConfinamiento(const General& g)
 {
     return ConCoeficientes(
         CampoQueRechaza(ReglasConfina(), g, [&g](const ReglaCampo& regla) { return CampoConfinaEnPantalla(regla, g); }),
+        g);
+}
+
+std::optional<CampoRechazado> CampoQueRechazaLaFlexionAlEscribir(const General& g, Entero seccion)
+{
+    return ConCoeficientes(CampoQueRechazaAlEscribir(ReglasFlexion(seccion == kSeccionT), g, nullptr), g);
+}
+
+std::optional<CampoRechazado> CampoQueRechazaElConfinamientoAlEscribir(const General& g)
+{
+    return ConCoeficientes(
+        CampoQueRechazaAlEscribir(ReglasConfina(), g,
+                                  [&g](const ReglaCampo& regla) { return CampoConfinaEnPantalla(regla, g); }),
         g);
 }
 

@@ -18,6 +18,7 @@ struct CampoRechazado {
     std::string control;  // "TX_LADOMENOR"
     std::string mensaje;
     bool coeficiente = false;  // a field of the safety coefficient dialog, FM_COEF
+    CampoEstado campo = nullptr;  // the state field it feeds, &General::LADOMENOR
 };
 
 // The first field, in the screen's order, whose value its field would refuse on acceptance: its
@@ -28,6 +29,12 @@ struct CampoRechazado {
 std::optional<CampoRechazado> CampoQueRechaza(const std::vector<ReglaCampo>& reglas, const General& g,
                                               const std::function<bool(const ReglaCampo&)>& enPantalla = nullptr);
 
+// What a field refuses, or sends the user on from, as its value is typed: every test of the
+// field, the soft ones and those that Calculate lets pass included. A value that passes them all
+// passes the file checks too, so that a project made of such values opens as it was written.
+std::optional<CampoRechazado> CampoQueRechazaAlEscribir(const std::vector<ReglaCampo>& reglas, const General& g,
+                                                         const std::function<bool(const ReglaCampo&)>& enPantalla);
+
 // What Calculate refuses on a flexure screen of that section kind (1 rectangular, 2 T): its
 // fields in the screen's order, then the three coefficients of FM_COEF.
 std::optional<CampoRechazado> CampoQueRechazaLaFlexion(const General& g, Entero seccion);
@@ -35,5 +42,10 @@ std::optional<CampoRechazado> CampoQueRechazaLaFlexion(const General& g, Entero 
 // rectangular column. A DIAM below LADOMENOR is no refusal: no field tests it, and Calculate
 // goes ahead with it.
 std::optional<CampoRechazado> CampoQueRechazaElConfinamiento(const General& g);
+
+// The same with every test of every field, as if each value had been typed on the screen: what
+// a project made from outside the screens (a table of members) must pass.
+std::optional<CampoRechazado> CampoQueRechazaLaFlexionAlEscribir(const General& g, Entero seccion);
+std::optional<CampoRechazado> CampoQueRechazaElConfinamientoAlEscribir(const General& g);
 
 }  // namespace texalon

@@ -12,12 +12,14 @@ import io
 import json
 import os
 import re
+import decimal as decimal_exacto
 import shutil
 import subprocess
 import sys
 import tempfile
 
-CABECERA = ["fichero", "tipo", "refuerzo", "capas", "resultado", "alcanza", "error"]
+CABECERA = ["fichero", "tipo", "refuerzo", "capas", "resultado", "alcanza", "error", "elemento", "solicitado",
+            "sin_refuerzo", "veredicto"]
 BOM = b"\xef\xbb\xbf"
 CAPAS = 5
 WINDOWS = False
@@ -33,6 +35,13 @@ def comprueba(condicion, mensaje):
 
 def ejecuta(programa, argumentos):
     return subprocess.run([programa] + argumentos, capture_output=True, check=False)
+
+
+def con_decimales(valor, decimales, decimal):
+    """The value as a field of the screen writes it: rounded half away from zero."""
+    cuanto = decimal_exacto.Decimal(1).scaleb(-decimales)
+    texto = str(decimal_exacto.Decimal(repr(valor)).quantize(cuanto, rounding=decimal_exacto.ROUND_HALF_UP))
+    return texto.replace(".", decimal)
 
 
 def tabla_de_texto(salida, fichero):
@@ -156,8 +165,13 @@ def comprueba_en(programa, datos, decimal, separador, otro, carpeta):
             continue
         for i, fila in enumerate(filas_fichero):
             refuerzo, capas = tipos[i // CAPAS], i % CAPAS + 1
+            objeto = objetos[fichero]
+            pilar = tipo == "confinamiento"
             esperada = [fichero, tipo, refuerzo, str(capas), celdas[(refuerzo, str(capas))],
-                        "sí" if alcanza_por_json(objetos[fichero], i // CAPAS, capas) else "no", ""]
+                        "sí" if alcanza_por_json(objeto, i // CAPAS, capas) else "no", "", "",
+                        con_decimales(objeto["INCR" if pilar else "MD"], 2, decimal),
+                        "" if pilar else con_decimales(objeto["MUSR"], 1, decimal),
+                        (objeto["veredicto"] or "").strip()]
             comprueba(fila == esperada, "%s: fila %r y se esperaba %r" % (fichero, fila, esperada))
             comprueba(fila[4] == "---" or patron.match(fila[4]),
                       "%s: resultado %r sin el separador decimal %r" % (fichero, fila[4], decimal))
@@ -170,7 +184,7 @@ def comprueba_en(programa, datos, decimal, separador, otro, carpeta):
     for fichero, tipo in ((roto, ""), (ausente, "confinamiento")):
         mensajes = [l[len(fichero) + 2:] for l in texto_normal.stderr.decode("utf-8").splitlines()
                     if l.startswith(fichero + ": ")]
-        esperada = [fichero, tipo, "", "", "", "", "\n".join(mensajes)]
+        esperada = [fichero, tipo, "", "", "", "", "\n".join(mensajes), "", "", "", ""]
         comprueba(len(mensajes) == 2, "%s: mensajes %r" % (fichero, mensajes))
         comprueba(objetos[fichero]["error"] == esperada[6], "%s: el error del JSON es otro" % fichero)
         comprueba(por_fichero.get(fichero) == [esperada],

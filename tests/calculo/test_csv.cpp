@@ -93,8 +93,8 @@ TEST(CabeceraCsv, SeparadorSegunElDecimal)
 {
     EXPECT_EQ(SeparadorCsv(','), ';');
     EXPECT_EQ(SeparadorCsv('.'), ',');
-    EXPECT_EQ(CabeceraCsv(','), std::string(kBom) + "fichero;tipo;refuerzo;capas;resultado;alcanza;error\r\n");
-    EXPECT_EQ(CabeceraCsv('.'), std::string(kBom) + "fichero,tipo,refuerzo,capas,resultado,alcanza,error\r\n");
+    EXPECT_EQ(CabeceraCsv(','), std::string(kBom) + "fichero;tipo;refuerzo;capas;resultado;alcanza;error;elemento;solicitado;sin_refuerzo;veredicto\r\n");
+    EXPECT_EQ(CabeceraCsv('.'), std::string(kBom) + "fichero,tipo,refuerzo,capas,resultado,alcanza,error,elemento,solicitado,sin_refuerzo,veredicto\r\n");
 }
 
 TEST(SalidaCsvCalculo, UnaFilaPorTipoYCapasEnElOrdenDeLaTabla)
@@ -106,20 +106,26 @@ TEST(SalidaCsvCalculo, UnaFilaPorTipoYCapasEnElOrdenDeLaTabla)
     EXPECT_EQ(ejecucion.errores, "");
     const std::vector<std::string> filas = Filas(ejecucion.salida);
     ASSERT_EQ(filas.size(), 16U);
-    EXPECT_EQ(filas[0], "fichero;tipo;refuerzo;capas;resultado;alcanza;error");
+    EXPECT_EQ(filas[0], "fichero;tipo;refuerzo;capas;resultado;alcanza;error;elemento;solicitado;sin_refuerzo;veredicto");
     const std::string_view tipos[] = {"TEXALON L", "TEXALON H", "TEXALON X"};
     for (std::size_t i = 1; i < filas.size(); ++i) {
         const std::string tipo(tipos[(i - 1) / 5]);
         const std::string capas = std::to_string((i - 1) % 5 + 1);
         EXPECT_EQ(filas[i].rfind(viga + ";rectangular;" + tipo + ";" + capas + ";", 0), 0U) << filas[i];
-        EXPECT_EQ(filas[i].back(), ';') << filas[i];
+        // No error and no member; the design moment, the moment without the sheet and the verdict.
+        EXPECT_TRUE(Contiene(filas[i], ";;;0,00;222,5;NO ES NECESARIO REFORZAR LA SECCION")) << filas[i];
     }
     // The grid of the default beam, as its screen shows it: MD = 0, so every number is yellow.
-    EXPECT_EQ(filas[1], Fila({viga, "rectangular", "TEXALON L", "1", "238,5", "sí", ""}));
-    EXPECT_EQ(filas[10], Fila({viga, "rectangular", "TEXALON H", "5", "294,9", "sí", ""}));
-    EXPECT_EQ(filas[12], Fila({viga, "rectangular", "TEXALON X", "2", "246,8", "sí", ""}));
+    const std::vector<std::string_view> seccion = {"", "", "0,00", "222,5", "NO ES NECESARIO REFORZAR LA SECCION"};
+    const auto fila = [&](std::vector<std::string_view> celda) {
+        celda.insert(celda.end(), seccion.begin(), seccion.end());
+        return Fila(celda);
+    };
+    EXPECT_EQ(filas[1], fila({viga, "rectangular", "TEXALON L", "1", "238,5", "sí"}));
+    EXPECT_EQ(filas[10], fila({viga, "rectangular", "TEXALON H", "5", "294,9", "sí"}));
+    EXPECT_EQ(filas[12], fila({viga, "rectangular", "TEXALON X", "2", "246,8", "sí"}));
     for (std::size_t i = 13; i <= 15; ++i)
-        EXPECT_EQ(filas[i], Fila({viga, "rectangular", "TEXALON X", std::to_string(i - 10), "---", "no", ""}));
+        EXPECT_EQ(filas[i], fila({viga, "rectangular", "TEXALON X", std::to_string(i - 10), "---", "no"}));
 }
 
 TEST(SalidaCsvCalculo, ConPuntoDecimalLaComaSepara)
@@ -128,8 +134,10 @@ TEST(SalidaCsvCalculo, ConPuntoDecimalLaComaSepara)
     const std::string viga = directorio.Escribe("viga.vmf", kFlexionT);
     const std::vector<std::string> filas = Filas(EjecutaCalculo({"--csv", viga}, '.').salida);
     ASSERT_EQ(filas.size(), 16U);
-    EXPECT_EQ(filas[0], "fichero,tipo,refuerzo,capas,resultado,alcanza,error");
-    EXPECT_EQ(filas[1], Fila({viga, "T", "TEXALON L", "1", "238.5", "sí", ""}, ','));
+    EXPECT_EQ(filas[0], "fichero,tipo,refuerzo,capas,resultado,alcanza,error,elemento,solicitado,sin_refuerzo,veredicto");
+    EXPECT_EQ(filas[1], Fila({viga, "T", "TEXALON L", "1", "238.5", "sí", "", "", "0.00", "222.5",
+                              "NO ES NECESARIO REFORZAR LA SECCION"},
+                             ','));
 }
 
 // MD = 230 with the default section: the cells of MU >= 230 are yellow, all of TEXALON L and
@@ -153,8 +161,9 @@ TEST(SalidaCsvCalculo, ConfinamientoConDosDecimales)
     const std::string pilar = directorio.Escribe("pilar.vmc", kConfinamiento);
     const std::vector<std::string> filas = Filas(EjecutaCalculo({"--csv", pilar}, ',').salida);
     ASSERT_EQ(filas.size(), 16U);
-    EXPECT_EQ(filas[1], Fila({pilar, "confinamiento", "TEXALON L", "1", "1,03", "sí", ""}));
-    EXPECT_EQ(filas[15], Fila({pilar, "confinamiento", "TEXALON X", "5", "1,38", "sí", ""}));
+    // The increase wanted, no moment without the sheet, and an increase of 1 shows no verdict.
+    EXPECT_EQ(filas[1], Fila({pilar, "confinamiento", "TEXALON L", "1", "1,03", "sí", "", "", "1,00", "", ""}));
+    EXPECT_EQ(filas[15], Fila({pilar, "confinamiento", "TEXALON X", "5", "1,38", "sí", "", "", "1,00", "", ""}));
 }
 
 // INCR = 2 with the default column: no cell is yellow.
@@ -193,8 +202,8 @@ TEST(SalidaCsvCalculo, UnFicheroQueNoExisteDaUnaFilaConSusMensajes)
     EXPECT_EQ(ejecucion.estado, 1);
     const std::string mensajes = std::string(kNoEncontrado) + "\n" + std::string(calculo::kMensajeDatosIncorrectos);
     // A flexure file that could not be read has told no kind; the extension tells confinement.
-    EXPECT_EQ(ejecucion.salida, CabeceraCsv(',') + viga + ";;;;;;\"" + mensajes + "\"\r\n" + pilar +
-                                    ";confinamiento;;;;;\"" + mensajes + "\"\r\n");
+    EXPECT_EQ(ejecucion.salida, CabeceraCsv(',') + viga + ";;;;;;\"" + mensajes + "\";;;;\r\n" + pilar +
+                                    ";confinamiento;;;;;\"" + mensajes + "\";;;;\r\n");
     // The error output says what the other modes say.
     EXPECT_EQ(ejecucion.errores, EjecutaCalculo({viga, pilar}).errores);
 }
@@ -207,7 +216,7 @@ TEST(SalidaCsvCalculo, UnFicheroLeidoAMediasNoDiceSuTipo)
     EXPECT_EQ(ejecucion.estado, 1);
     EXPECT_EQ(ejecucion.salida, CabeceraCsv(',') + viga +
                                     ";;;;;;\"Error 62: La entrada sobrepasa el final del archivo\n" +
-                                    std::string(calculo::kMensajeDatosIncorrectos) + "\"\r\n");
+                                    std::string(calculo::kMensajeDatosIncorrectos) + "\";;;;\r\n");
 }
 
 TEST(SalidaCsvCalculo, LaPredeformacionConservaElTipo)
@@ -219,7 +228,8 @@ TEST(SalidaCsvCalculo, LaPredeformacionConservaElTipo)
     const Ejecucion ejecucion = EjecutaCalculo({"--csv", viga}, '.');
     EXPECT_EQ(ejecucion.estado, 1);
     EXPECT_EQ(ejecucion.salida,
-              CabeceraCsv('.') + Fila({viga, "rectangular", "", "", "", "", kMensajePredeformacion}, ',') + "\r\n");
+              CabeceraCsv('.') + Fila({viga, "rectangular", "", "", "", "", kMensajePredeformacion, "", "", "", ""}, ',') +
+                  "\r\n");
 }
 
 TEST(SalidaCsvCalculo, OtraExtensionSinTipoYElNombreEntreComillas)
@@ -227,7 +237,7 @@ TEST(SalidaCsvCalculo, OtraExtensionSinTipoYElNombreEntreComillas)
     const Ejecucion ejecucion = EjecutaCalculo({"--csv", "notas;\"1\".txt"}, ',');
     EXPECT_EQ(ejecucion.estado, 1);
     EXPECT_EQ(ejecucion.salida,
-              CabeceraCsv(',') + "\"notas;\"\"1\"\".txt\";;;;;;" + std::string(calculo::kMensajeNoEsProyecto) + "\r\n");
+              CabeceraCsv(',') + "\"notas;\"\"1\"\".txt\";;;;;;" + std::string(calculo::kMensajeNoEsProyecto) + ";;;;\r\n");
 }
 
 TEST(SalidaCsvCalculo, TrasUnFalloSigueConLosDemas)
