@@ -1,10 +1,12 @@
 # Completado de bash para texalon-calculo.       -*- shell-script -*-
 #
 # Options and their values (the names of --diagrama, the numbers of --tipo and --capas, a folder
-# for --svg and --informe), and as arguments the project files, .vmf and .vmc in either case,
-# and the folders on the way to them. --csv goes with nothing but file names, so it is offered
-# only while no other option has been given, and no other option after it; after "--" only
-# names are offered. It needs nothing of the bash-completion package beyond being loaded by it.
+# for --svg and --informe, the kinds of --plantilla), and as arguments the project files, .vmf
+# and .vmc in either case, or with --tabla the tables, .csv, .tsv and .txt, and the folders on
+# the way to them. --csv goes with nothing but names and --tabla, so it is offered only while no
+# other option has been given, and no other option after it; --plantilla goes with nothing at
+# all; after "--" only names are offered. It needs nothing of the bash-completion package beyond
+# being loaded by it.
 
 _texalon_calculo()
 {
@@ -32,10 +34,14 @@ _texalon_calculo()
         mapfile -t COMPREPLY < <(compgen -d -- "$actual")
         return
         ;;
+    --plantilla)
+        mapfile -t COMPREPLY < <(compgen -W 'rectangular T confinamiento' -- "$actual")
+        return
+        ;;
     esac
 
     # What the words before this one have asked for already.
-    local palabra i solo_nombres=0 csv=0 otras=0 ayuda=0
+    local palabra i solo_nombres=0 csv=0 otras=0 ayuda=0 tablas=0
     local -A dadas=()
     for ((i = 1; i < COMP_CWORD; i++)); do
         palabra=${COMP_WORDS[i]}
@@ -45,23 +51,25 @@ _texalon_calculo()
         fi
         case $palabra in
         --csv) csv=1 ;;
-        -h | --help) ayuda=1 ;;
+        --tabla) tablas=1 ;;
+        -h | --help | --plantilla) ayuda=1 ;;
         --json | --diagrama | --tipo | --capas | --svg | --informe) otras=1 ;;
         esac
         [[ $palabra == -* ]] && dadas[$palabra]=1
         # An option's value is not an option nor a name.
         case $palabra in
-        --diagrama | --tipo | --capas | --svg | --informe) ((i++)) ;;
+        --diagrama | --tipo | --capas | --svg | --informe | --plantilla) ((i++)) ;;
         esac
     done
 
     if ((!solo_nombres && !ayuda)) && [[ $actual == -* ]]; then
         local opciones=() opcion
         if ((csv)); then
-            opciones=(--)
+            opciones=(--tabla --)
         else
-            opciones=(--json --diagrama --tipo --capas --svg --informe --help --)
+            opciones=(--tabla --json --diagrama --tipo --capas --svg --informe --help --)
             ((otras)) || opciones=(--csv "${opciones[@]}")
+            ((otras || tablas)) || opciones+=(--plantilla)
         fi
         local libres=()
         for opcion in "${opciones[@]}"; do
@@ -72,14 +80,17 @@ _texalon_calculo()
     fi
     ((ayuda)) && return
 
-    # Project files and the folders that may hold them (a folder named like a project file comes
-    # from both lists: once is enough). Before "--" a name that starts with "-" would be taken for
-    # an option: it is offered only after "--".
+    # Project files, or tables, and the folders that may hold them (a folder named like a file
+    # comes from both lists: once is enough). Before "--" a name that starts with "-" would be
+    # taken for an option: it is offered only after "--".
     compopt -o filenames 2>/dev/null
-    local nombres=()
+    local nombres=() patrones=('!*.[vV][mM][fFcC]') patron
+    ((tablas)) && patrones=('!*.[cC][sS][vV]' '!*.[tT][sS][vV]' '!*.[tT][xX][tT]')
     mapfile -t nombres < <({
         compgen -d -- "$actual"
-        compgen -f -X '!*.[vV][mM][fFcC]' -- "$actual"
+        for patron in "${patrones[@]}"; do
+            compgen -f -X "$patron" -- "$actual"
+        done
     } | sort -u)
     for palabra in "${nombres[@]}"; do
         ((solo_nombres)) || [[ $palabra != -* ]] && COMPREPLY+=("$palabra")

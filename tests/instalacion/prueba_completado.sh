@@ -19,7 +19,8 @@ completado=$(realpath "$1")
 temporal=$(mktemp -d "${TMPDIR:-/tmp}/texalon-completado.XXXXXX")
 trap 'rm -rf "$temporal"' EXIT
 cd "$temporal"
-touch viga.vmf PILAR.VMC Mixto.Vmc 'con espacio.vmf' notas.txt viga.vmf.txt informe.pdf -- -raro.vmf
+touch viga.vmf PILAR.VMC Mixto.Vmc 'con espacio.vmf' notas.txt viga.vmf.txt informe.pdf edificio.csv PLANTA.CSV \
+  -- -raro.vmf
 mkdir -p notas informes/2026 'otra carpeta'
 touch informes/planta.vmf informes/leeme.txt
 
@@ -65,7 +66,7 @@ fi
 funcion=${registro#* -F }
 funcion=${funcion%% *}
 
-todas=(--csv --json --diagrama --tipo --capas --svg --informe --help --)
+todas=(--csv --tabla --json --diagrama --tipo --capas --svg --informe --help --plantilla --)
 
 # Options.
 caso "todas las opciones" "texalon-calculo -" "${todas[@]}"
@@ -73,8 +74,10 @@ caso "una opción por su principio" "texalon-calculo --dia" --diagrama
 caso "--c: --csv y --capas" "texalon-calculo --c" --csv --capas
 caso "una opción dada no se ofrece otra vez" "texalon-calculo --json --j"
 caso "tras otra opción no se ofrece --csv" "texalon-calculo --json --c" --capas
-caso "tras --csv solo --" "texalon-calculo --csv viga.vmf -" --
+caso "tras otra opción no se ofrece --plantilla" "texalon-calculo --json --p"
+caso "tras --csv solo --tabla y --" "texalon-calculo --csv viga.vmf -" --tabla --
 caso "tras --help nada" "texalon-calculo --help ''"
+caso "tras --plantilla y su valor nada" "texalon-calculo --plantilla T ''"
 
 # The values of the options.
 caso "los diagramas" "texalon-calculo --diagrama ''" tension confinamiento area capas pivotes seccion
@@ -84,7 +87,8 @@ caso "las capas" "texalon-calculo --diagrama pivotes --capas ''" 1 2 3 4 5
 caso "--svg: las carpetas" "texalon-calculo --diagrama capas --svg ''" notas informes 'otra carpeta'
 caso "--informe: las carpetas por su principio" "texalon-calculo --informe inf" informes
 caso "--informe: las carpetas de dentro" "texalon-calculo --informe informes/" informes/2026
-caso "el valor de una opción no cuenta como opción dada" "texalon-calculo --diagrama capas --t" --tipo
+caso "el valor de una opción no cuenta como opción dada" "texalon-calculo --diagrama capas --t" --tipo --tabla
+caso "los tipos de --plantilla" "texalon-calculo --plantilla ''" rectangular T confinamiento
 
 # Project files, in either case, and the folders that may hold them.
 proyectos=(viga.vmf PILAR.VMC Mixto.Vmc 'con espacio.vmf' notas informes 'otra carpeta')
@@ -99,6 +103,11 @@ caso "los proyectos de una carpeta" "texalon-calculo informes/" informes/planta.
 caso "tras --, un nombre que empieza por -" "texalon-calculo -- -" -raro.vmf
 caso "tras --, ninguna opción" "texalon-calculo -- --csv -" -raro.vmf
 caso "tras --, todos los proyectos" "texalon-calculo -- ''" -raro.vmf "${proyectos[@]}"
+
+# Tables, in either case, with --tabla.
+caso "con --tabla, las tablas y las carpetas" "texalon-calculo --tabla ''" edificio.csv PLANTA.CSV notas.txt \
+  viga.vmf.txt notas informes 'otra carpeta'
+caso "con --csv --tabla, una tabla por su principio" "texalon-calculo --csv --tabla e" edificio.csv
 
 echo "Completado de texalon-calculo: $casos casos, $((casos - fallos)) correctos"
 if [ $fallos -gt 0 ]; then
