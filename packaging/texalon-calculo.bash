@@ -29,7 +29,7 @@ _texalon_calculo()
         mapfile -t COMPREPLY < <(compgen -W '1 2 3 4 5' -- "$actual")
         return
         ;;
-    --svg | --informe)
+    --svg | --informe | --proyectos)
         compopt -o filenames 2>/dev/null
         mapfile -t COMPREPLY < <(compgen -d -- "$actual")
         return
@@ -53,12 +53,12 @@ _texalon_calculo()
         --csv) csv=1 ;;
         --tabla) tablas=1 ;;
         -h | --help | --plantilla) ayuda=1 ;;
-        --json | --diagrama | --tipo | --capas | --svg | --informe) otras=1 ;;
+        --json | --diagrama | --tipo | --capas | --svg | --informe | --resumen) otras=1 ;;
         esac
         [[ $palabra == -* ]] && dadas[$palabra]=1
         # An option's value is not an option nor a name.
         case $palabra in
-        --diagrama | --tipo | --capas | --svg | --informe | --plantilla) ((i++)) ;;
+        --diagrama | --tipo | --capas | --svg | --informe | --plantilla | --proyectos) ((i++)) ;;
         esac
     done
 
@@ -67,7 +67,7 @@ _texalon_calculo()
         if ((csv)); then
             opciones=(--tabla --)
         else
-            opciones=(--tabla --json --diagrama --tipo --capas --svg --informe --help --)
+            opciones=(--tabla --json --resumen --proyectos --diagrama --tipo --capas --svg --informe --help --)
             ((otras)) || opciones=(--csv "${opciones[@]}")
             ((otras || tablas)) || opciones+=(--plantilla)
         fi

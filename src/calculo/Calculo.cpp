@@ -1,6 +1,7 @@
 #include "calculo/Calculo.h"
 
 #include "calculo/Diagrama.h"
+#include "files/Ficheros.h"
 #include "calculo/Informe.h"
 #include "calculo/Miembros.h"
 #include "calculo/Proyecto.h"
@@ -34,6 +35,8 @@ struct Orden {
     bool csv = false;
     bool ayuda = false;
     bool tablas = false;  // the names are tables of members
+    bool resumen = false;
+    std::optional<std::string> carpetaProyectos;
     std::optional<std::string> plantilla;  // the kind of member of --plantilla
     std::optional<Diagrama> diagrama;
     int tipo = 1;
@@ -64,7 +67,7 @@ bool EsOpcion(const std::string& argumento) { return argumento.size() > 1 && arg
 bool LlevaValor(const std::string& opcion)
 {
     return opcion == "--diagrama" || opcion == "--tipo" || opcion == "--capas" || opcion == "--svg" ||
-           opcion == "--informe" || opcion == "--plantilla";
+           opcion == "--informe" || opcion == "--plantilla" || opcion == "--proyectos";
 }
 
 // A whole number in plain decimal digits from 1 to `maximo`, the whole text of it.
@@ -104,7 +107,8 @@ std::string TomaValor(Orden& orden, const std::string& opcion, const std::string
         orden.plantilla = valor;
     } else {
         if (valor.empty()) return "falta el valor de la opción «" + opcion + "».";
-        (opcion == "--svg" ? orden.carpetaSvg : orden.carpetaInforme) = valor;
+        (opcion == "--svg" ? orden.carpetaSvg : opcion == "--informe" ? orden.carpetaInforme : orden.carpetaProyectos) =
+            valor;
     }
     return {};
 }
@@ -128,6 +132,8 @@ Orden Interpreta(const std::vector<std::string>& argumentos)
             orden.csv = true;
         } else if (argumento == "--tabla") {
             orden.tablas = true;
+        } else if (argumento == "--resumen") {
+            orden.resumen = true;
         } else if (argumento == "--help" || argumento == "-h") {
             orden.ayuda = true;
         } else if (LlevaValor(argumento)) {
@@ -147,10 +153,16 @@ Orden Interpreta(const std::vector<std::string>& argumentos)
         return orden;
     }
     const std::optional<std::string> contraCsv = orden.csv ? OpcionContraCsv(orden) : std::nullopt;
+    const std::optional<std::string> contraResumen = orden.resumen ? OpcionContraCsv(orden) : std::nullopt;
     if (orden.ficheros.empty())
         orden.error = "falta el nombre de algún fichero.";
     else if (contraCsv)
         orden.error = "la opción «--csv» no se puede combinar con «" + *contraCsv + "».";
+    else if (orden.resumen && (orden.csv || contraResumen))
+        orden.error = "la opción «--resumen» no se puede combinar con «" +
+                      (orden.csv ? std::string("--csv") : *contraResumen) + "».";
+    else if (orden.carpetaProyectos && !orden.tablas)
+        orden.error = "la opción «--proyectos» necesita «--tabla».";
     else if (orden.carpetaSvg && !orden.diagrama)
         orden.error = "la opción «--svg» necesita «--diagrama NOMBRE».";
     return orden;
@@ -167,12 +179,41 @@ std::string FicheroInforme(const std::string& carpeta, const std::string& ficher
     return TextoUtf8(RutaUtf8(carpeta) / (TextoUtf8(RutaUtf8(fichero).stem()) + ".pdf"));
 }
 
+// CARPETA/<the member's name, made safe for a file system><extension>
+std::string FicheroDeElemento(const std::string& carpeta, const CalculoFichero& calculo, std::string_view extension)
+{
+    return TextoUtf8(RutaUtf8(carpeta) / (NombreDeFichero(calculo.elemento) + std::string(extension)));
+}
+
+// The project file of an accepted member, which its screen opens as any project; an existing
+// file is named and left as it is.
+void GuardaProyecto(CalculoFichero& calculo, const Orden& orden)
+{
+    if (!orden.carpetaProyectos || !calculo.leido) return;
+    const bool flexion = calculo.clase == ClaseFichero::Flexion;
+    const std::string destino = FicheroDeElemento(*orden.carpetaProyectos, calculo, flexion ? ".vmf" : ".vmc");
+    std::error_code fallo;
+    std::filesystem::create_directories(RutaUtf8(*orden.carpetaProyectos), fallo);
+    if (std::filesystem::exists(RutaUtf8(destino), fallo)) {
+        calculo.errores.push_back("no se escribe «" + destino + "»: ya existe.");
+        return;
+    }
+    // The state keeps its results: a copy is written, as Save writes the screen's values.
+    General g = calculo.g;
+    const Aviso aviso = [&calculo](const std::string& texto) { calculo.errores.push_back(texto); };
+    if (flexion)
+        GrabaFlexion(g, destino, calculo.seccion, aviso);
+    else
+        GrabaConfina(g, destino, aviso);
+}
+
 // The report of a calculated file, as Print makes it for the cell of --tipo and --capas. The
 // folder is made when it is missing.
 void GuardaInforme(CalculoFichero& calculo, const Orden& orden, char separador, const ImpresoraPdf& pdf)
 {
     if (!orden.carpetaInforme || !calculo.Correcto()) return;
-    const std::string destino = FicheroInforme(*orden.carpetaInforme, calculo.fichero);
+    const std::string destino = calculo.fila != 0 ? FicheroDeElemento(*orden.carpetaInforme, calculo, ".pdf")
+                                                  : FicheroInforme(*orden.carpetaInforme, calculo.fichero);
     std::error_code fallo;
     std::filesystem::create_directories(RutaUtf8(*orden.carpetaInforme), fallo);
     if (fallo) {
@@ -225,11 +266,14 @@ bool Entrega(CalculoFichero& calculo, const Orden& orden, char separador, const 
 {
     const std::optional<ListaDiagrama> lista = DiagramaDelFichero(calculo, orden, separador, dispositivos.svg);
     GuardaInforme(calculo, orden, separador, dispositivos.pdf);
+    GuardaProyecto(calculo, orden);
     const std::string procedencia = Procedencia(calculo);
     for (const std::string& mensaje : calculo.errores)
         errores << procedencia << ": " << mensaje << '\n';
     if (orden.csv) {
         salida << FilasCsv(calculo, separador);
+    } else if (orden.resumen) {
+        salida << FilaResumen(calculo, separador);
     } else if (orden.json) {
         salida << ObjetoJson(calculo, lista ? &*lista : nullptr) << '\n';
     } else if (calculo.Correcto()) {
@@ -300,6 +344,7 @@ int ProcesaFicheros(const Orden& orden, char separador, const Dispositivos& disp
     bool todos = true;
     bool primerBloque = true;
     if (orden.csv) salida << CabeceraCsv(separador);
+    if (orden.resumen) salida << CabeceraResumen(separador);
     // A failure stops nothing: the next file goes on.
     const auto procesa = orden.tablas ? &ProcesaTabla : &ProcesaFichero;
     for (const std::string& fichero : orden.ficheros)
@@ -316,7 +361,8 @@ std::string TextoAyuda()
            "  o: texalon-calculo [--json] --diagrama NOMBRE [--tipo N] [--capas N]\n"
            "                     [--svg CARPETA] FICHERO...\n"
            "  o: texalon-calculo --informe CARPETA [--tipo N] [--capas N] FICHERO...\n"
-           "  o: texalon-calculo --tabla [--json | --csv | --informe CARPETA] TABLA...\n"
+           "  o: texalon-calculo --tabla [--json | --csv | --resumen] [--informe CARPETA]\n"
+           "                     [--proyectos CARPETA] TABLA...\n"
            "  o: texalon-calculo --plantilla rectangular|T|confinamiento\n"
            "\n"
            "Calcula cada proyecto TEXALON guardado como lo hace el botón Calcular de su\n"
@@ -379,7 +425,8 @@ std::string TextoAyuda()
            "              pantalla.\n"
            "  --informe CARPETA\n"
            "              escribe el informe de cada fichero en CARPETA/<nombre del fichero\n"
-           "              sin extensión>.pdf, el mismo que imprime la orden Imprimir de su\n"
+           "              sin extensión>.pdf (de cada elemento de una tabla en\n"
+           "              CARPETA/<elemento>.pdf), el mismo que imprime la orden Imprimir de su\n"
            "              pantalla tras Calcular, para la celda de --tipo y --capas (la que\n"
            "              Calcular muestra si no se dan). Crea la carpeta si no existe. Si\n"
            "              la celda no tiene resultado («---»), el fichero falla con el\n"
@@ -420,6 +467,20 @@ std::string TextoAyuda()
            "              como un fichero; una fila rechazada se dice con la tabla, la fila,\n"
            "              el elemento, la columna, el valor escrito y el motivo (el mensaje\n"
            "              de la pantalla para ese campo), y las demás siguen.\n"
+           "  --resumen   escribe una tabla para una memoria, con una fila por elemento (o\n"
+           "              por fichero) y las columnas «elemento» (su nombre, o el del\n"
+           "              fichero), «tipo», «solicitado», «sin_refuerzo», una columna por\n"
+           "              tipo de refuerzo (TEXALON L, TEXALON H, TEXALON X) con el menor\n"
+           "              número de capas que alcanza lo pedido (la primera celda amarilla\n"
+           "              de su columna en la pantalla), vacía si ninguno, «veredicto» y\n"
+           "              «error»; con los separadores y la codificación de --csv. No se\n"
+           "              combina con --csv, --json ni las opciones de los diagramas.\n"
+           "  --proyectos CARPETA\n"
+           "              con --tabla, escribe cada elemento aceptado como fichero de\n"
+           "              proyecto, CARPETA/<elemento>.vmf o .vmc (el nombre con «_» en\n"
+           "              lugar de lo que un sistema de ficheros no admite), que el programa\n"
+           "              abre como cualquier proyecto. Nunca escribe sobre un fichero que\n"
+           "              existe: lo nombra, lo deja como está y la fila falla.\n"
            "  --plantilla rectangular|T|confinamiento\n"
            "              escribe una tabla con la cabecera de ese tipo y una fila con los\n"
            "              valores de un proyecto nuevo, con el separador del sistema, para\n"

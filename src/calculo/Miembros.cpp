@@ -286,6 +286,24 @@ CalculoFichero CalculaFila(const std::string& tabla, const CabeceraTabla& cabece
     return calculo;
 }
 
+std::string NombreDeFichero(std::string_view elemento)
+{
+    std::string nombre;
+    for (const char c : elemento) {
+        const bool control = static_cast<unsigned char>(c) < 0x20 || c == 0x7F;
+        nombre += control || std::string_view("/\\:*?\"<>|").find(c) != std::string_view::npos ? '_' : c;
+    }
+    for (auto fin = nombre.rbegin(); fin != nombre.rend() && (*fin == ' ' || *fin == '.'); ++fin)
+        *fin = '_';
+    if (nombre.empty()) return "_";
+    // A device's name, with an extension or not, in any case.
+    const std::string base = Mayusculas(nombre.substr(0, nombre.find('.')));
+    const bool dispositivo =
+        base == "CON" || base == "PRN" || base == "AUX" || base == "NUL" ||
+        (base.size() == 4 && (base.rfind("COM", 0) == 0 || base.rfind("LPT", 0) == 0) && base[3] >= '1' && base[3] <= '9');
+    return dispositivo ? "_" + nombre : nombre;
+}
+
 std::optional<std::string> Plantilla(std::string_view tipo, char separadorDecimal)
 {
     const std::optional<Clase> clase = ClaseDe(tipo);

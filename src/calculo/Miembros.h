@@ -36,6 +36,12 @@ CabeceraTabla LeeCabecera(const Registro& cabecera);
 CalculoFichero CalculaFila(const std::string& tabla, const CabeceraTabla& cabecera, const Registro& fila,
                            std::string_view decimales);
 
+// A member's name made a file name that every system takes: the characters that Windows or a
+// Unix system refuses in a name ('/', '\\', ':', '*', '?', '"', '<', '>', '|' and the control
+// characters) become '_', as do the blanks and dots that Windows drops at its end; a name that
+// Windows keeps for a device (CON, NUL, COM1...) gets a '_' before it; an empty name is "_".
+std::string NombreDeFichero(std::string_view elemento);
+
 // The table that --plantilla writes: the header of that kind and one row of a new project's
 // values, with ';' and the decimal comma or ',' and the decimal point as `separadorDecimal`
 // says; CR LF line ends and the UTF-8 byte-order mark, as the command's CSV output. Nothing for

@@ -9,6 +9,7 @@
 #include <array>
 #include <cstddef>
 #include <optional>
+#include <vector>
 
 namespace texalon::calculo {
 
@@ -57,10 +58,11 @@ CeldaResultado Celda(const CalculoFichero& calculo, int tipo, int capas, char se
 }
 
 // The kind of the file as far as it is known: the extension tells a confinement file, but a
-// flexure file tells rectangular or T only once it has been read whole.
+// flexure file tells rectangular or T only once it has been read whole; a member's row tells it
+// in its column "tipo".
 std::optional<std::string_view> Tipo(const CalculoFichero& calculo)
 {
-    if (calculo.clase == ClaseFichero::Flexion && !calculo.leido) return std::nullopt;
+    if (calculo.clase == ClaseFichero::Flexion && !calculo.leido && calculo.fila == 0) return std::nullopt;
     return NombreTipo(calculo);
 }
 
@@ -126,6 +128,34 @@ std::string FilasCsv(const CalculoFichero& calculo, char separadorDecimal)
         }
     }
     return filas;
+}
+
+std::string CabeceraResumen(char separadorDecimal)
+{
+    General g;
+    ValoresIniciales(g);
+    std::vector<std::string> cabecera = {"elemento", "tipo", "solicitado", "sin_refuerzo"};
+    for (int t = 1; t <= g.NTIPOS; ++t)
+        cabecera.push_back(g.TIPOS(t));
+    cabecera.insert(cabecera.end(), {"veredicto", "error"});
+    return std::string(kMarcaOrden) + Linea(cabecera, SeparadorCsv(separadorDecimal));
+}
+
+std::string FilaResumen(const CalculoFichero& calculo, char separadorDecimal)
+{
+    Fila datos;
+    if (calculo.Correcto()) DatosDeLaSeccion(calculo, separadorDecimal, datos);
+    const General& g = calculo.g;
+    std::vector<std::string> fila = {calculo.fila != 0 ? calculo.elemento : calculo.fichero,
+                                     std::string(Tipo(calculo).value_or("")), datos[kSolicitado], datos[kSinRefuerzo]};
+    for (int t = 1; t <= g.NTIPOS; ++t) {
+        std::string capas;
+        for (int n = 1; calculo.Correcto() && n <= g.MAXCAPAS && capas.empty(); ++n)
+            if (Celda(calculo, t, n, separadorDecimal).cumple) capas = TextoEntero(n);
+        fila.push_back(capas);
+    }
+    fila.insert(fila.end(), {datos[kVeredicto], Unidos(calculo.errores)});
+    return Linea(fila, SeparadorCsv(separadorDecimal));
 }
 
 }  // namespace texalon::calculo

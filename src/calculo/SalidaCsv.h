@@ -34,4 +34,14 @@ std::string CabeceraCsv(char separadorDecimal);
 // a member, its name.
 std::string FilasCsv(const CalculoFichero& calculo, char separadorDecimal);
 
+// The header of --resumen: the UTF-8 byte-order mark, then elemento, tipo, solicitado,
+// sin_refuerzo, one column for each sheet type by its name, veredicto and error.
+std::string CabeceraResumen(char separadorDecimal);
+
+// One calculation in a row of --resumen: the member (or the file's name), its kind, what it
+// must reach and the moment without the sheet as in --csv, for each sheet type the fewest
+// layers whose cell reaches the requirement (the first yellow cell of its column on the screen)
+// or nothing, the verdict's text and, for a failure, its messages.
+std::string FilaResumen(const CalculoFichero& calculo, char separadorDecimal);
+
 }  // namespace texalon::calculo

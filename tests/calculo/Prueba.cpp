@@ -40,6 +40,8 @@ std::string LeeFichero(const std::filesystem::path& ruta)
 
 }  // namespace
 
+std::string Contenido(const std::string& fichero) { return LeeFichero(std::filesystem::path(fichero)); }
+
 DirectorioTemporal::DirectorioTemporal() : ruta_(RutaNueva()) { std::filesystem::create_directories(ruta_); }
 
 DirectorioTemporal::~DirectorioTemporal()

@@ -65,6 +65,9 @@ void ComparaConEsperado(const std::string& texto, const std::string& esperado);
 // Whether the text holds the part, telling both when it does not.
 ::testing::AssertionResult Contiene(const std::string& texto, std::string_view parte);
 
+// A file's bytes.
+std::string Contenido(const std::string& fichero);
+
 // The lines of a text, without their ends.
 std::vector<std::string> Lineas(const std::string& texto);
 

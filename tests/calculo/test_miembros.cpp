@@ -198,6 +198,80 @@ TEST(TablaDeElementos, UnaTablaQueNoExisteFallaYLasDemasSiguen)
     EXPECT_EQ(Lineas(ejecucion.salida).size(), 1U + 3U * 15U);
 }
 
+TEST(TablaDeElementos, LosProyectosEscritosSonLosFicherosDeSusPantallas)
+{
+    DirectorioTemporal directorio;
+    const std::string tabla = directorio.Escribe("edificio.csv", kTablaMixta);
+    const std::string carpeta = directorio.Fichero("proyectos");
+    const Ejecucion ejecucion = EjecutaCalculo({"--tabla", "--proyectos", carpeta, tabla});
+    EXPECT_EQ(ejecucion.estado, 0) << ejecucion.errores;
+    EXPECT_EQ(Contenido(carpeta + "/V-1.vmf"), kViga1);
+    EXPECT_EQ(Contenido(carpeta + "/V-2.vmf"), kViga2);
+    EXPECT_EQ(Contenido(carpeta + "/P-1.vmc"), kPilar1);
+    // A second run writes over nothing: it names each file and fails.
+    const Ejecucion otra = EjecutaCalculo({"--tabla", "--proyectos", carpeta, tabla});
+    EXPECT_EQ(otra.estado, 1);
+    EXPECT_TRUE(Contiene(otra.errores, tabla + ": fila 2 (V-1): no se escribe «" + carpeta + "/V-1.vmf»: ya existe."))
+        << otra.errores;
+    EXPECT_EQ(Contenido(carpeta + "/V-1.vmf"), kViga1);
+}
+
+TEST(TablaDeElementos, ElResumenDaLasCapasQueAlcanzanCadaTipo)
+{
+    DirectorioTemporal directorio;
+    const std::string tabla = directorio.Escribe("edificio.csv", kTablaMixta);
+    const Ejecucion ejecucion = EjecutaCalculo({"--tabla", "--resumen", tabla}, ',');
+    EXPECT_EQ(ejecucion.estado, 0) << ejecucion.errores;
+    const std::vector<std::string> filas = Lineas(ejecucion.salida);
+    ASSERT_EQ(filas.size(), 4U);
+    EXPECT_EQ(filas[0], "\xEF\xBB\xBF"
+                        "elemento;tipo;solicitado;sin_refuerzo;TEXALON L;TEXALON H;TEXALON X;veredicto;error\r");
+    // Each type's first yellow cell, read from the --csv rows of the same member.
+    const std::vector<std::string> celdas = Lineas(EjecutaCalculo({"--tabla", "--csv", tabla}, ',').salida);
+    for (std::size_t m = 0; m < 3; ++m) {
+        std::string esperada;
+        for (std::size_t t = 0; t < 3; ++t) {
+            std::string capas;
+            for (std::size_t n = 0; n < 5 && capas.empty(); ++n)
+                if (Contiene(celdas[1 + m * 15 + t * 5 + n], ";sí;")) capas = std::to_string(n + 1);
+            esperada += ";" + capas;
+        }
+        EXPECT_TRUE(Contiene(filas[1 + m], esperada + ";")) << filas[1 + m] << " " << esperada;
+    }
+    EXPECT_EQ(filas[1].rfind("V-1;rectangular;180,00;", 0), 0U) << filas[1];
+    EXPECT_EQ(filas[3].rfind("P-1;confinamiento;1,20;;", 0), 0U) << filas[3];
+}
+
+TEST(TablaDeElementos, UnaFilaRechazadaEnElResumenLlevaSuError)
+{
+    DirectorioTemporal directorio;
+    const std::string tabla = directorio.Escribe("t.csv", "elemento;tipo;ANCHO;CANTO\r\nV-1;rectangular;0,4;0,008\r\n");
+    const std::vector<std::string> filas = Lineas(EjecutaCalculo({"--tabla", "--resumen", tabla}, ',').salida);
+    ASSERT_EQ(filas.size(), 2U);
+    EXPECT_EQ(filas[1], "V-1;rectangular;;;;;;;CANTO «0,008»: El canto de la sección debe ser un número mayor que cero.\r");
+}
+
+TEST(TablaDeElementos, ElResumenYLosProyectosConOtrasOpcionesSonErrorDeUso)
+{
+    EXPECT_EQ(EjecutaCalculo({"--resumen", "--csv", "t.csv"}).estado, 2);
+    EXPECT_EQ(EjecutaCalculo({"--resumen", "--json", "t.csv"}).estado, 2);
+    EXPECT_EQ(EjecutaCalculo({"--proyectos", "p", "viga.vmf"}).estado, 2);
+}
+
+TEST(NombreDeFichero, LoQueUnSistemaNoTomaSeCambia)
+{
+    using calculo::NombreDeFichero;
+    EXPECT_EQ(NombreDeFichero("V-101"), "V-101");
+    EXPECT_EQ(NombreDeFichero("Viga 1/2: \"sur\"?"), "Viga 1_2_ _sur__");
+    EXPECT_EQ(NombreDeFichero("pilar. "), "pilar__");
+    EXPECT_EQ(NombreDeFichero("con"), "_con");
+    EXPECT_EQ(NombreDeFichero("COM1.x"), "_COM1.x");
+    EXPECT_EQ(NombreDeFichero("COMA"), "COMA");
+    EXPECT_EQ(NombreDeFichero(""), "_");
+    EXPECT_EQ(NombreDeFichero("a\tb"), "a_b");
+    EXPECT_EQ(NombreDeFichero("Ñandú"), "Ñandú");
+}
+
 TEST(Plantilla, CadaTipoConElSeparadorDelSistema)
 {
     EXPECT_EQ(EjecutaCalculo({"--plantilla", "rectangular"}, ',').salida,

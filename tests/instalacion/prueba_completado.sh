@@ -66,7 +66,7 @@ fi
 funcion=${registro#* -F }
 funcion=${funcion%% *}
 
-todas=(--csv --tabla --json --diagrama --tipo --capas --svg --informe --help --plantilla --)
+todas=(--csv --tabla --json --resumen --proyectos --diagrama --tipo --capas --svg --informe --help --plantilla --)
 
 # Options.
 caso "todas las opciones" "texalon-calculo -" "${todas[@]}"
@@ -74,7 +74,7 @@ caso "una opción por su principio" "texalon-calculo --dia" --diagrama
 caso "--c: --csv y --capas" "texalon-calculo --c" --csv --capas
 caso "una opción dada no se ofrece otra vez" "texalon-calculo --json --j"
 caso "tras otra opción no se ofrece --csv" "texalon-calculo --json --c" --capas
-caso "tras otra opción no se ofrece --plantilla" "texalon-calculo --json --p"
+caso "tras otra opción no se ofrece --plantilla" "texalon-calculo --json --p" --proyectos
 caso "tras --csv solo --tabla y --" "texalon-calculo --csv viga.vmf -" --tabla --
 caso "tras --help nada" "texalon-calculo --help ''"
 caso "tras --plantilla y su valor nada" "texalon-calculo --plantilla T ''"
@@ -86,6 +86,7 @@ caso "los tipos" "texalon-calculo --tipo ''" 1 2 3
 caso "las capas" "texalon-calculo --diagrama pivotes --capas ''" 1 2 3 4 5
 caso "--svg: las carpetas" "texalon-calculo --diagrama capas --svg ''" notas informes 'otra carpeta'
 caso "--informe: las carpetas por su principio" "texalon-calculo --informe inf" informes
+caso "--proyectos: las carpetas" "texalon-calculo --tabla --proyectos ''" notas informes 'otra carpeta'
 caso "--informe: las carpetas de dentro" "texalon-calculo --informe informes/" informes/2026
 caso "el valor de una opción no cuenta como opción dada" "texalon-calculo --diagrama capas --t" --tipo --tabla
 caso "los tipos de --plantilla" "texalon-calculo --plantilla ''" rectangular T confinamiento
