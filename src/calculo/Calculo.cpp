@@ -3,6 +3,7 @@
 #include "calculo/Diagrama.h"
 #include "files/Ficheros.h"
 #include "calculo/Informe.h"
+#include "calculo/Lotes.h"
 #include "calculo/Miembros.h"
 #include "calculo/Proyecto.h"
 #include "calculo/SalidaCsv.h"
@@ -17,7 +18,6 @@
 #include <charconv>
 #include <filesystem>
 #include <fstream>
-#include <map>
 #include <optional>
 #include <ostream>
 #include <string_view>
@@ -259,10 +259,26 @@ std::optional<ListaDiagrama> DiagramaDelFichero(CalculoFichero& calculo, const O
     return lista;
 }
 
+// Whether what the command writes for a calculation is all it does with it: no diagram, report
+// or project file to make, which could fail and turn the results into a failure.
+bool SoloEscribe(const Orden& orden) { return !orden.diagrama && !orden.carpetaInforme && !orden.carpetaProyectos; }
+
+// What the command writes on its output for one calculation: its CSV rows, its summary row, its
+// JSON object, or its block of text (nothing for a failure). A block of text goes without the
+// blank line that parts it from the one before.
+std::string Salida(const CalculoFichero& calculo, const Orden& orden, char separador, const ListaDiagrama* lista)
+{
+    if (orden.csv) return FilasCsv(calculo, separador);
+    if (orden.resumen) return FilaResumen(calculo, separador);
+    if (orden.json) return ObjetoJson(calculo, lista) + '\n';
+    return calculo.Correcto() ? TextoResultados(calculo, separador) : std::string();
+}
+
 // What the command gives for one calculation, a file's or a member's: its diagram and report
-// when asked, its messages, its results. The answer says whether it succeeded.
-bool Entrega(CalculoFichero& calculo, const Orden& orden, char separador, const Dispositivos& dispositivos,
-             bool& primerBloque, std::ostream& salida, std::ostream& errores)
+// when asked, its messages, its results. `escrita` is its output already written, if any. The
+// answer says whether it succeeded.
+bool Entrega(CalculoFichero& calculo, const std::string* escrita, const Orden& orden, char separador,
+             const Dispositivos& dispositivos, bool& primerBloque, std::ostream& salida, std::ostream& errores)
 {
     const std::optional<ListaDiagrama> lista = DiagramaDelFichero(calculo, orden, separador, dispositivos.svg);
     GuardaInforme(calculo, orden, separador, dispositivos.pdf);
@@ -270,18 +286,13 @@ bool Entrega(CalculoFichero& calculo, const Orden& orden, char separador, const 
     const std::string procedencia = Procedencia(calculo);
     for (const std::string& mensaje : calculo.errores)
         errores << procedencia << ": " << mensaje << '\n';
-    if (orden.csv) {
-        salida << FilasCsv(calculo, separador);
-    } else if (orden.resumen) {
-        salida << FilaResumen(calculo, separador);
-    } else if (orden.json) {
-        salida << ObjetoJson(calculo, lista ? &*lista : nullptr) << '\n';
-    } else if (calculo.Correcto()) {
-        // A blank line parts the blocks of two files.
-        if (!primerBloque) salida << '\n';
-        salida << TextoResultados(calculo, separador);
-        primerBloque = false;
-    }
+    const std::string texto =
+        escrita != nullptr ? *escrita : Salida(calculo, orden, separador, lista ? &*lista : nullptr);
+    // A blank line parts the blocks of two files.
+    const bool bloque = !orden.csv && !orden.resumen && !orden.json && !texto.empty();
+    if (bloque && !primerBloque) salida << '\n';
+    if (bloque) primerBloque = false;
+    salida << texto;
     // Whoever reads both outputs at once sees each file's lines together.
     salida.flush();
     errores.flush();
@@ -292,10 +303,22 @@ bool ProcesaFichero(const std::string& fichero, const Orden& orden, char separad
                     bool& primerBloque, std::ostream& salida, std::ostream& errores)
 {
     CalculoFichero calculo = CalculaFichero(fichero);
-    return Entrega(calculo, orden, separador, dispositivos, primerBloque, salida, errores);
+    return Entrega(calculo, nullptr, orden, separador, dispositivos, primerBloque, salida, errores);
 }
 
-// Every row of a table, in its order: a refused row is told and the next goes on. A table that
+// A member whose name an earlier row has: refused, whatever its values.
+CalculoFichero Repetido(const std::string& tabla, const CalculoFichero& calculo, std::size_t filaAnterior)
+{
+    CalculoFichero repetido;
+    repetido.fichero = tabla;
+    repetido.fila = calculo.fila;
+    repetido.elemento = calculo.elemento;
+    repetido.errores.push_back("elemento «" + calculo.elemento + "»: ya está en la fila " +
+                               TextoEntero(static_cast<int>(filaAnterior)) + ".");
+    return repetido;
+}
+
+// Every row of a table, in its order, calculated on every core: a refused row is told and the next goes on. A table that
 // cannot be opened or whose header cannot be used fails whole.
 bool ProcesaTabla(const std::string& tabla, const Orden& orden, char separador, const Dispositivos& dispositivos,
                   bool& primerBloque, std::ostream& salida, std::ostream& errores)
@@ -317,20 +340,28 @@ bool ProcesaTabla(const std::string& tabla, const Orden& orden, char separador, 
         return false;
     }
     bool todas = true;
-    std::map<std::string, std::size_t> vistos;  // each member's name and its row
-    while (const std::optional<Registro> fila = lector.Siguiente()) {
-        CalculoFichero calculo = CalculaFila(tabla, cabecera, *fila, lector.Decimales());
-        const auto [visto, nuevo] = vistos.try_emplace(calculo.elemento, calculo.fila);
-        if (!nuevo && !calculo.elemento.empty()) {
-            calculo = CalculoFichero{};
-            calculo.fichero = tabla;
-            calculo.fila = fila->linea;
-            calculo.elemento = visto->first;
-            calculo.errores.push_back("elemento «" + visto->first + "»: ya está en la fila " +
-                                      TextoEntero(static_cast<int>(visto->second)) + ".");
-        }
-        todas = Entrega(calculo, orden, separador, dispositivos, primerBloque, salida, errores) && todas;
-    }
+    NombresVistos vistos;
+    const std::string_view decimales = lector.Decimales();
+    CalculaEnLotes(
+        [&lector] { return lector.Siguiente(); },
+        [&](const Registro& fila) {
+            FilaCalculada calculada{CalculaFila(tabla, cabecera, fila, decimales), {}};
+            if (SoloEscribe(orden)) calculada.salida = Salida(calculada.calculo, orden, separador, nullptr);
+            return calculada;
+        },
+        [&](FilaCalculada& calculada) {
+            CalculoFichero& calculo = calculada.calculo;
+            const bool escrita = SoloEscribe(orden);
+            if (!calculo.elemento.empty()) {
+                if (const std::optional<std::size_t> visto = vistos.Anota(calculo.elemento, calculo.fila)) {
+                    calculo = Repetido(tabla, calculo, *visto);
+                    calculada.salida = Salida(calculo, orden, separador, nullptr);
+                }
+            }
+            todas = Entrega(calculo, escrita ? &calculada.salida : nullptr, orden, separador, dispositivos,
+                            primerBloque, salida, errores) &&
+                    todas;
+        });
     if (!lector.Error().empty()) {
         errores << tabla << ": " << lector.Error() << '\n';
         return false;

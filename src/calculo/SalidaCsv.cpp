@@ -6,6 +6,7 @@
 #include "engine/Caracteristicas.h"
 #include "state/Formato.h"
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <optional>
@@ -88,8 +89,10 @@ char SeparadorCsv(char separadorDecimal) { return separadorDecimal == ',' ? ';' 
 std::string CampoCsv(std::string_view texto, char separadorCampos)
 {
     const std::string valido = Utf8Valido(texto);
-    const std::string especiales = {separadorCampos, '"', '\r', '\n'};
-    if (valido.find_first_of(especiales) == std::string::npos) return valido;
+    const bool cita = std::any_of(valido.begin(), valido.end(), [separadorCampos](char c) {
+        return c == separadorCampos || c == '"' || c == '\r' || c == '\n';
+    });
+    if (!cita) return valido;
     std::string campo = "\"";
     for (const char c : valido) {
         if (c == '"') campo += '"';

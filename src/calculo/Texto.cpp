@@ -45,6 +45,14 @@ constexpr std::string_view kSustituto = "\xEF\xBF\xBD";  // U+FFFD
 
 std::string Utf8Valido(std::string_view texto)
 {
+    // Most texts are well-formed already, and go as they are.
+    std::size_t i = 0;
+    while (i < texto.size()) {
+        const std::size_t largo = static_cast<unsigned char>(texto[i]) < 0x80 ? 1 : CaracterUtf8(texto.substr(i));
+        if (largo == 0) break;
+        i += largo;
+    }
+    if (i == texto.size()) return std::string(texto);
     std::string valido;
     valido.reserve(texto.size());
     RecorreUtf8(texto, [&valido](std::string_view caracter) { valido += caracter.empty() ? kSustituto : caracter; });
