@@ -81,6 +81,35 @@ TEST(TablaDeElementos, CadaElementoDaLosResultadosDeSuFicheroDeProyecto)
     }
 }
 
+// The same three members as a spreadsheet in Spanish, one in English and one on a Spanish
+// Windows save them (datos/tablas/LEEME.md tells how each was made): the same results.
+TEST(TablaDeElementos, LasTablasDeLasHojasDeCalculoDanLosMismosResultados)
+{
+    DirectorioTemporal directorio;
+    const std::vector<ValorJson> esperados =
+        Objetos(EjecutaCalculo({"--tabla", "--json", directorio.Escribe("edificio.csv", kTablaMixta)}).salida);
+    ASSERT_EQ(esperados.size(), 3U);
+    const std::string carpeta = TEXALON_TABLAS;
+    for (const char* nombre : {"calc_es.csv", "calc_en.csv", "excel_windows1252.csv"}) {
+        SCOPED_TRACE(nombre);
+        const Ejecucion ejecucion = EjecutaCalculo({"--tabla", "--json", carpeta + "/" + nombre});
+        EXPECT_EQ(ejecucion.estado, 0) << ejecucion.errores;
+        const std::vector<ValorJson> miembros = Objetos(ejecucion.salida);
+        ASSERT_EQ(miembros.size(), 3U);
+        for (std::size_t i = 0; i < 3; ++i) {
+            for (const auto& [clave, valor] : esperados[i].miembros) {
+                if (clave == "fichero" || clave == "elemento") continue;
+                EXPECT_TRUE(Iguales(miembros[i][clave], valor)) << i << " " << clave;
+            }
+        }
+    }
+    EXPECT_EQ(Objetos(EjecutaCalculo({"--tabla", "--json", carpeta + "/calc_es.csv"}).salida)[2]["elemento"].cadena,
+              "P-1; planta baja");
+    EXPECT_EQ(
+        Objetos(EjecutaCalculo({"--tabla", "--json", carpeta + "/excel_windows1252.csv"}).salida)[2]["elemento"].cadena,
+        "P-1 baño");
+}
+
 TEST(TablaDeElementos, ElTextoYElCsvNombranElElemento)
 {
     DirectorioTemporal directorio;
