@@ -3,6 +3,7 @@
 #include "calculo/Diagrama.h"
 #include "files/Ficheros.h"
 #include "calculo/Informe.h"
+#include "reports/Informes.h"
 #include "calculo/Lotes.h"
 #include "calculo/Miembros.h"
 #include "calculo/Proyecto.h"
@@ -14,6 +15,8 @@
 #include "state/Rutas.h"
 
 #include <algorithm>
+#include <cctype>
+#include <functional>
 #include <array>
 #include <charconv>
 #include <filesystem>
@@ -37,6 +40,8 @@ struct Orden {
     bool tablas = false;  // the names are tables of members
     bool resumen = false;
     std::optional<std::string> carpetaProyectos;
+    // --informe FICHERO.pdf with tables: one report of every member, after their summary.
+    std::optional<std::string> informeConjunto;
     std::optional<std::string> plantilla;  // the kind of member of --plantilla
     std::optional<Diagrama> diagrama;
     int tipo = 1;
@@ -53,11 +58,15 @@ struct Orden {
 constexpr std::array<std::string_view, 6> kOpcionesSinCsv = {"--json",    "--diagrama", "--svg",
                                                              "--informe", "--tipo",     "--capas"};
 
-// The first option given that --csv does not combine with, if any.
-std::optional<std::string> OpcionContraCsv(const Orden& orden)
+// The summary is one table too, of one row a member; a report may go with it.
+constexpr std::array<std::string_view, 3> kOpcionesSinResumen = {"--json", "--diagrama", "--svg"};
+
+// The first option given that --csv, or --resumen, does not combine with, if any.
+template <std::size_t N>
+std::optional<std::string> OpcionContra(const Orden& orden, const std::array<std::string_view, N>& excluidas)
 {
     for (const std::string& opcion : orden.opciones)
-        if (std::find(kOpcionesSinCsv.begin(), kOpcionesSinCsv.end(), opcion) != kOpcionesSinCsv.end()) return opcion;
+        if (std::find(excluidas.begin(), excluidas.end(), opcion) != excluidas.end()) return opcion;
     return std::nullopt;
 }
 
@@ -113,6 +122,16 @@ std::string TomaValor(Orden& orden, const std::string& opcion, const std::string
     return {};
 }
 
+// A name that ends in ".pdf", in any case.
+bool EsPdf(const std::string& nombre)
+{
+    if (nombre.size() < 4) return false;
+    std::string extension = nombre.substr(nombre.size() - 4);
+    std::transform(extension.begin(), extension.end(), extension.begin(),
+                   [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
+    return extension == ".pdf";
+}
+
 // Options and names may come in any order; an option's value is the argument that follows it.
 // After "--" everything is a name, so that a file whose name starts with '-' can be given too.
 Orden Interpreta(const std::vector<std::string>& argumentos)
@@ -152,8 +171,9 @@ Orden Interpreta(const std::vector<std::string>& argumentos)
             orden.error = "la opción «--plantilla» no se combina con otras opciones ni con nombres de fichero.";
         return orden;
     }
-    const std::optional<std::string> contraCsv = orden.csv ? OpcionContraCsv(orden) : std::nullopt;
-    const std::optional<std::string> contraResumen = orden.resumen ? OpcionContraCsv(orden) : std::nullopt;
+    const std::optional<std::string> contraCsv = orden.csv ? OpcionContra(orden, kOpcionesSinCsv) : std::nullopt;
+    const std::optional<std::string> contraResumen =
+        orden.resumen ? OpcionContra(orden, kOpcionesSinResumen) : std::nullopt;
     if (orden.ficheros.empty())
         orden.error = "falta el nombre de algún fichero.";
     else if (contraCsv)
@@ -163,6 +183,10 @@ Orden Interpreta(const std::vector<std::string>& argumentos)
                       (orden.csv ? std::string("--csv") : *contraResumen) + "».";
     else if (orden.carpetaProyectos && !orden.tablas)
         orden.error = "la opción «--proyectos» necesita «--tabla».";
+    if (orden.error.empty() && orden.tablas && orden.carpetaInforme && EsPdf(*orden.carpetaInforme)) {
+        orden.informeConjunto = orden.carpetaInforme;
+        orden.carpetaInforme.reset();
+    }
     else if (orden.carpetaSvg && !orden.diagrama)
         orden.error = "la opción «--svg» necesita «--diagrama NOMBRE».";
     return orden;
@@ -318,33 +342,63 @@ CalculoFichero Repetido(const std::string& tabla, const CalculoFichero& calculo,
     return repetido;
 }
 
-// Every row of a table, in its order, calculated on every core: a refused row is told and the next goes on. A table that
-// cannot be opened or whose header cannot be used fails whole.
-bool ProcesaTabla(const std::string& tabla, const Orden& orden, char separador, const Dispositivos& dispositivos,
-                  bool& primerBloque, std::ostream& salida, std::ostream& errores)
+// What the joint report of the tables' members needs from their first reading: the summary's
+// rows and, for each member in table order, whether its report can be printed.
+struct InformeConjunto {
+    std::vector<std::vector<std::string>> resumen;
+    std::vector<bool> imprimible;
+};
+
+using CalculaRegistro =
+    std::function<FilaCalculada(const CabeceraTabla& cabecera, const Registro& fila, std::string_view decimales)>;
+
+// Opens the table, reads its header, and calculates its rows on every core, each handed to
+// `entrega` in table order. A table that cannot be opened, whose header cannot be used or
+// whose quotes are left open is told on `errores` (when given) and fails.
+bool RecorreTabla(const std::string& tabla, std::ostream* errores, const CalculaRegistro& calcula,
+                  const std::function<void(FilaCalculada&)>& entrega)
 {
-    std::ifstream entrada(RutaUtf8(tabla), std::ios::binary);
-    if (!entrada) {
-        errores << tabla << ": no se ha podido abrir la tabla.\n";
+    const auto falla = [&](const std::string& mensaje) {
+        if (errores != nullptr) *errores << tabla << ": " << mensaje << '\n';
         return false;
-    }
+    };
+    std::ifstream entrada(RutaUtf8(tabla), std::ios::binary);
+    if (!entrada) return falla("no se ha podido abrir la tabla.");
     LectorTabla lector(entrada);
     const std::optional<Registro> primera = lector.Siguiente();
-    if (!primera) {
-        errores << tabla << ": " << (lector.Error().empty() ? "la tabla no tiene cabecera." : lector.Error()) << '\n';
-        return false;
-    }
+    if (!primera) return falla(lector.Error().empty() ? "la tabla no tiene cabecera." : lector.Error());
     const CabeceraTabla cabecera = LeeCabecera(*primera);
-    if (!cabecera.error.empty()) {
-        errores << tabla << ": " << cabecera.error << '\n';
-        return false;
-    }
+    if (!cabecera.error.empty()) return falla(cabecera.error);
+    const std::string_view decimales = lector.Decimales();
+    CalculaEnLotes([&lector] { return lector.Siguiente(); },
+                   [&](const Registro& fila) { return calcula(cabecera, fila, decimales); }, entrega);
+    if (!lector.Error().empty()) return falla(lector.Error());
+    return true;
+}
+
+// A member in the joint report's summary: its row of --resumen, the verdict's column holding
+// instead the reason why it has no report, where it has none.
+void AnotaEnElResumen(const CalculoFichero& calculo, const Orden& orden, char separador, InformeConjunto& conjunto)
+{
+    std::vector<std::string> celdas = CeldasResumen(calculo, separador);
+    const std::string error = celdas.back();
+    celdas.pop_back();
+    const bool imprimible = InformeImprimible(calculo, orden.tipo, orden.capas);
+    if (!imprimible) celdas.back() = calculo.Correcto() ? std::string(kMensajeCeldaRechazada) : error;
+    conjunto.resumen.push_back(std::move(celdas));
+    conjunto.imprimible.push_back(imprimible);
+}
+
+// Every row of a table, in its order, calculated on every core: a refused row is told and the
+// next goes on.
+bool ProcesaTabla(const std::string& tabla, const Orden& orden, char separador, const Dispositivos& dispositivos,
+                  bool& primerBloque, std::ostream& salida, std::ostream& errores, InformeConjunto* conjunto)
+{
     bool todas = true;
     NombresVistos vistos;
-    const std::string_view decimales = lector.Decimales();
-    CalculaEnLotes(
-        [&lector] { return lector.Siguiente(); },
-        [&](const Registro& fila) {
+    const bool tablaLeida = RecorreTabla(
+        tabla, &errores,
+        [&](const CabeceraTabla& cabecera, const Registro& fila, std::string_view decimales) {
             FilaCalculada calculada{CalculaFila(tabla, cabecera, fila, decimales), {}};
             if (SoloEscribe(orden)) calculada.salida = Salida(calculada.calculo, orden, separador, nullptr);
             return calculada;
@@ -361,12 +415,63 @@ bool ProcesaTabla(const std::string& tabla, const Orden& orden, char separador, 
             todas = Entrega(calculo, escrita ? &calculada.salida : nullptr, orden, separador, dispositivos,
                             primerBloque, salida, errores) &&
                     todas;
+            if (conjunto != nullptr) AnotaEnElResumen(calculo, orden, separador, *conjunto);
         });
-    if (!lector.Error().empty()) {
-        errores << tabla << ": " << lector.Error() << '\n';
+    return tablaLeida && todas;
+}
+
+bool ProcesaFicheroOTabla(const std::string& nombre, const Orden& orden, char separador,
+                          const Dispositivos& dispositivos, bool& primerBloque, std::ostream& salida,
+                          std::ostream& errores, InformeConjunto* conjunto)
+{
+    if (orden.tablas) return ProcesaTabla(nombre, orden, separador, dispositivos, primerBloque, salida, errores, conjunto);
+    return ProcesaFichero(nombre, orden, separador, dispositivos, primerBloque, salida, errores);
+}
+
+// The joint report: the summary of every member, then each member's report on pages of its
+// own, in table order, as its screen prints it after Calculate. The tables are read and
+// calculated a second time, so that no more than a few members are in memory at once.
+bool ImprimeConjunto(const Orden& orden, char separador, const Dispositivos& dispositivos,
+                     const InformeConjunto& conjunto, std::ostream& errores)
+{
+    const std::string& destino = *orden.informeConjunto;
+    std::error_code sinExcepcion;
+    const std::filesystem::path carpeta = RutaUtf8(destino).parent_path();
+    if (!carpeta.empty()) std::filesystem::create_directories(carpeta, sinExcepcion);
+    bool todos = true;
+    const auto imprime = [&](plataforma::Impresora& impresora) {
+        General nuevo;
+        ValoresIniciales(nuevo);
+        std::vector<std::string> columnas = {"Elemento", "Tipo", "Solicitado", "Sin refuerzo"};
+        for (int t = 1; t <= nuevo.NTIPOS; ++t)
+            columnas.push_back(nuevo.TIPOS(t));
+        columnas.emplace_back("Veredicto u observación");
+        InformeResumen(impresora, columnas, conjunto.resumen);
+        ImpresoraContinua continua(impresora);
+        std::size_t indice = 0;
+        for (const std::string& tabla : orden.ficheros) {
+            RecorreTabla(
+                tabla, nullptr,
+                [&](const CabeceraTabla& cabecera, const Registro& fila, std::string_view decimales) {
+                    return FilaCalculada{CalculaFila(tabla, cabecera, fila, decimales), {}};
+                },
+                [&](FilaCalculada& calculada) {
+                    if (indice >= conjunto.imprimible.size() || !conjunto.imprimible[indice++]) return;
+                    impresora.NewPage();
+                    CalculoFichero& calculo = calculada.calculo;
+                    ImprimeInforme(calculo, continua, orden.tipo, orden.capas, separador, destino);
+                    for (const std::string& mensaje : calculo.errores)
+                        errores << Procedencia(calculo) << ": " << mensaje << '\n';
+                    todos = todos && calculo.Correcto();
+                });
+        }
+        impresora.EndDoc();
+    };
+    if (!dispositivos.pdf || !dispositivos.pdf(destino, imprime)) {
+        errores << MensajeInformeSinEscribir(destino) << '\n';
         return false;
     }
-    return todas;
+    return todos;
 }
 
 int ProcesaFicheros(const Orden& orden, char separador, const Dispositivos& dispositivos, std::ostream& salida,
@@ -377,9 +482,13 @@ int ProcesaFicheros(const Orden& orden, char separador, const Dispositivos& disp
     if (orden.csv) salida << CabeceraCsv(separador);
     if (orden.resumen) salida << CabeceraResumen(separador);
     // A failure stops nothing: the next file goes on.
-    const auto procesa = orden.tablas ? &ProcesaTabla : &ProcesaFichero;
+    std::optional<InformeConjunto> conjunto;
+    if (orden.informeConjunto) conjunto.emplace();
     for (const std::string& fichero : orden.ficheros)
-        todos = procesa(fichero, orden, separador, dispositivos, primerBloque, salida, errores) && todos;
+        todos = ProcesaFicheroOTabla(fichero, orden, separador, dispositivos, primerBloque, salida, errores,
+                                     conjunto ? &*conjunto : nullptr) &&
+                todos;
+    if (conjunto) todos = ImprimeConjunto(orden, separador, dispositivos, *conjunto, errores) && todos;
     return todos ? kSalidaCorrecta : kSalidaConFallos;
 }
 
@@ -457,7 +566,10 @@ std::string TextoAyuda()
            "  --informe CARPETA\n"
            "              escribe el informe de cada fichero en CARPETA/<nombre del fichero\n"
            "              sin extensión>.pdf (de cada elemento de una tabla en\n"
-           "              CARPETA/<elemento>.pdf), el mismo que imprime la orden Imprimir de su\n"
+           "              CARPETA/<elemento>.pdf; con --tabla y un nombre terminado en .pdf,\n"
+           "              un solo PDF con el resumen de todos los elementos y, cada uno en\n"
+           "              una página nueva, el informe de cada uno en el orden de las\n"
+           "              tablas: un elemento sin informe lleva en el resumen el motivo), el mismo que imprime la orden Imprimir de su\n"
            "              pantalla tras Calcular, para la celda de --tipo y --capas (la que\n"
            "              Calcular muestra si no se dan). Crea la carpeta si no existe. Si\n"
            "              la celda no tiene resultado («---»), el fichero falla con el\n"
@@ -505,7 +617,7 @@ std::string TextoAyuda()
            "              número de capas que alcanza lo pedido (la primera celda amarilla\n"
            "              de su columna en la pantalla), vacía si ninguno, «veredicto» y\n"
            "              «error»; con los separadores y la codificación de --csv. No se\n"
-           "              combina con --csv, --json ni las opciones de los diagramas.\n"
+           "              combina con --csv, --json, --diagrama ni --svg.\n"
            "  --proyectos CARPETA\n"
            "              con --tabla, escribe cada elemento aceptado como fichero de\n"
            "              proyecto, CARPETA/<elemento>.vmf o .vmc (el nombre con «_» en\n"

@@ -28,6 +28,14 @@ void Imprime(CalculoFichero& calculo, plataforma::Impresora& impresora, int tipo
 
 }  // namespace
 
+bool InformeImprimible(const CalculoFichero& calculo, int tipo, int capas)
+{
+    if (!calculo.Correcto()) return false;
+    if (calculo.clase != ClaseFichero::Flexion) return true;
+    // A cell with no gain shows "---" in every result, and its report prints nothing.
+    return calculo.g.MU(tipo, capas) != kSinMejora;
+}
+
 std::string MensajeInformeSinEscribir(const std::string& destino)
 {
     return "no se ha podido escribir el informe en «" + destino + "».";

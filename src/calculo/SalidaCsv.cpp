@@ -146,6 +146,11 @@ std::string CabeceraResumen(char separadorDecimal)
 
 std::string FilaResumen(const CalculoFichero& calculo, char separadorDecimal)
 {
+    return Linea(CeldasResumen(calculo, separadorDecimal), SeparadorCsv(separadorDecimal));
+}
+
+std::vector<std::string> CeldasResumen(const CalculoFichero& calculo, char separadorDecimal)
+{
     Fila datos;
     if (calculo.Correcto()) DatosDeLaSeccion(calculo, separadorDecimal, datos);
     const General& g = calculo.g;
@@ -158,7 +163,7 @@ std::string FilaResumen(const CalculoFichero& calculo, char separadorDecimal)
         fila.push_back(capas);
     }
     fila.insert(fila.end(), {datos[kVeredicto], Unidos(calculo.errores)});
-    return Linea(fila, SeparadorCsv(separadorDecimal));
+    return fila;
 }
 
 }  // namespace texalon::calculo

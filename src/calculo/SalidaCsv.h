@@ -6,6 +6,7 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace texalon::calculo {
 
@@ -43,5 +44,8 @@ std::string CabeceraResumen(char separadorDecimal);
 // layers whose cell reaches the requirement (the first yellow cell of its column on the screen)
 // or nothing, the verdict's text and, for a failure, its messages.
 std::string FilaResumen(const CalculoFichero& calculo, char separadorDecimal);
+
+// The fields of that row, before they are joined.
+std::vector<std::string> CeldasResumen(const CalculoFichero& calculo, char separadorDecimal);
 
 }  // namespace texalon::calculo

@@ -9,6 +9,7 @@
 #include "state/General.h"
 
 #include <string>
+#include <vector>
 
 namespace texalon {
 
@@ -25,6 +26,7 @@ inline constexpr char kDocumentoCarac[] = "caracteristicas";
 inline constexpr char kDocumentoFlexion[] = "informe_flexion";
 inline constexpr char kDocumentoFlexionT[] = "informe_flexion_t";
 inline constexpr char kDocumentoConfina[] = "informe_confinamiento";
+inline constexpr char kDocumentoElementos[] = "informe_elementos";
 
 // The message of a flexure report for a cell that the calculation refused ("---").
 inline constexpr char kMensajeCeldaRechazada[] =
@@ -55,5 +57,13 @@ Impresion InformeFlexionT(Impresora& impresora, General& g, GeneralDibujo& d, co
 // screen's section list (0 circular, 1 square, 2 rectangular, -1 none), which names the shape.
 void InformeConfina(Impresora& impresora, General& g, GeneralDibujo& d, const ResultadosCeldaConfina& celda,
                     int filaSeccion, char separador);
+
+// The summary of a building's members, the first pages of their joint report: a ruled table
+// with the header row `cabecera` and one row of `filas` a member, in the page frame of every
+// report under "RESUMEN DE LOS ELEMENTOS", on as many pages as it needs, the header repeated on
+// each. A text too wide for its column is cut with "…". The document stays open: the members'
+// reports follow on the same printer.
+void InformeResumen(Impresora& impresora, const std::vector<std::string>& cabecera,
+                    const std::vector<std::vector<std::string>>& filas);
 
 }  // namespace texalon
