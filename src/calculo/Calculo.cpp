@@ -183,12 +183,13 @@ Orden Interpreta(const std::vector<std::string>& argumentos)
                       (orden.csv ? std::string("--csv") : *contraResumen) + "».";
     else if (orden.carpetaProyectos && !orden.tablas)
         orden.error = "la opción «--proyectos» necesita «--tabla».";
+    else if (orden.carpetaSvg && !orden.diagrama)
+        orden.error = "la opción «--svg» necesita «--diagrama NOMBRE».";
+    // With tables, a report's name that ends in .pdf is the one file of the joint report.
     if (orden.error.empty() && orden.tablas && orden.carpetaInforme && EsPdf(*orden.carpetaInforme)) {
         orden.informeConjunto = orden.carpetaInforme;
         orden.carpetaInforme.reset();
     }
-    else if (orden.carpetaSvg && !orden.diagrama)
-        orden.error = "la opción «--svg» necesita «--diagrama NOMBRE».";
     return orden;
 }
 
