@@ -75,6 +75,50 @@ public:
     virtual void EndDoc() = 0;
 };
 
+// A printer that passes every operation on to another: the base of a printer that changes a
+// few of them (one that keeps a document open across many reports, one that notes what a test
+// prints).
+class ImpresoraQueReenvia : public Impresora {
+public:
+    explicit ImpresoraQueReenvia(Impresora& destino) : destino_(destino) {}
+
+    void PaperSize(int codigo) override { destino_.PaperSize(codigo); }
+    void ScaleMode(int modo) override { destino_.ScaleMode(modo); }
+    double ScaleWidth() const override { return destino_.ScaleWidth(); }
+    double ScaleHeight() const override { return destino_.ScaleHeight(); }
+    void NombreDocumento(const std::string& nombre) override { destino_.NombreDocumento(nombre); }
+    void DrawStyle(int estilo) override { destino_.DrawStyle(estilo); }
+    void DrawWidth(int ancho) override { destino_.DrawWidth(ancho); }
+    void Line(double x1, double y1, double x2, double y2, Color color) override { destino_.Line(x1, y1, x2, y2, color); }
+    void Box(double x1, double y1, double x2, double y2, Color color) override { destino_.Box(x1, y1, x2, y2, color); }
+    void Circle(double x, double y, double radio, Color color) override { destino_.Circle(x, y, radio, color); }
+    void Arc(double x, double y, double radio, Color color, double inicio, double fin) override
+    {
+        destino_.Arc(x, y, radio, color, inicio, fin);
+    }
+    void FontName(const std::string& nombre) override { destino_.FontName(nombre); }
+    void FontSize(double puntos) override { destino_.FontSize(puntos); }
+    void FontBold(bool negrita) override { destino_.FontBold(negrita); }
+    void ForeColor(Color color) override { destino_.ForeColor(color); }
+    double TextWidth(const std::string& texto) const override { return destino_.TextWidth(texto); }
+    double TextHeight(const std::string& texto) const override { return destino_.TextHeight(texto); }
+    void CurrentX(double x) override { destino_.CurrentX(x); }
+    void CurrentY(double y) override { destino_.CurrentY(y); }
+    double CurrentX() const override { return destino_.CurrentX(); }
+    double CurrentY() const override { return destino_.CurrentY(); }
+    void Print(const std::string& texto) override { destino_.Print(texto); }
+    void PaintPicture(const std::string& imagen, double x, double y, double ancho, double alto) override
+    {
+        destino_.PaintPicture(imagen, x, y, ancho, alto);
+    }
+    int Page() const override { return destino_.Page(); }
+    void NewPage() override { destino_.NewPage(); }
+    void EndDoc() override { destino_.EndDoc(); }
+
+protected:
+    Impresora& destino_;
+};
+
 // The printers of the machine and the one the reports print on.
 class Impresoras {
 public:

@@ -82,58 +82,30 @@ struct Notas {
 // Print and PaintPicture is noted first, with the position, page and widths the real printer
 // gives at that moment. A diagram goes on paper from its set of the scale, which the report's
 // own set-up makes once before; the report's texts on a new page are its own again.
-class ImpresoraAnotada final : public Impresora {
+class ImpresoraAnotada final : public plataforma::ImpresoraQueReenvia {
 public:
-    explicit ImpresoraAnotada(Impresora& real) : real_(real) {}
+    using ImpresoraQueReenvia::ImpresoraQueReenvia;
 
-    void PaperSize(int codigo) override { real_.PaperSize(codigo); }
     void ScaleMode(int modo) override
     {
         if (escalas_++ > 0) diagrama_ = ++notas.diagramas;
-        real_.ScaleMode(modo);
+        destino_.ScaleMode(modo);
     }
-    double ScaleWidth() const override { return real_.ScaleWidth(); }
-    double ScaleHeight() const override { return real_.ScaleHeight(); }
-    void NombreDocumento(const std::string& nombre) override { real_.NombreDocumento(nombre); }
-
-    void DrawStyle(int estilo) override { real_.DrawStyle(estilo); }
-    void DrawWidth(int ancho) override { real_.DrawWidth(ancho); }
-    void Line(double x1, double y1, double x2, double y2, Color color) override { real_.Line(x1, y1, x2, y2, color); }
-    void Box(double x1, double y1, double x2, double y2, Color color) override { real_.Box(x1, y1, x2, y2, color); }
-    void Circle(double x, double y, double radio, Color color) override { real_.Circle(x, y, radio, color); }
-    void Arc(double x, double y, double radio, Color color, double inicio, double fin) override
-    {
-        real_.Arc(x, y, radio, color, inicio, fin);
-    }
-
-    void FontName(const std::string& nombre) override { real_.FontName(nombre); }
-    void FontSize(double puntos) override { real_.FontSize(puntos); }
-    void FontBold(bool negrita) override { real_.FontBold(negrita); }
-    void ForeColor(Color color) override { real_.ForeColor(color); }
-    double TextWidth(const std::string& texto) const override { return real_.TextWidth(texto); }
-    double TextHeight(const std::string& texto) const override { return real_.TextHeight(texto); }
-    void CurrentX(double x) override { real_.CurrentX(x); }
-    void CurrentY(double y) override { real_.CurrentY(y); }
-    double CurrentX() const override { return real_.CurrentX(); }
-    double CurrentY() const override { return real_.CurrentY(); }
     void Print(const std::string& texto) override
     {
         notas.escritos.push_back(Anota(texto));
-        real_.Print(texto);
+        destino_.Print(texto);
     }
-
     void PaintPicture(const std::string& imagen, double x, double y, double ancho, double alto) override
     {
-        notas.cuadros.push_back({real_.Page(), x, y, ancho, alto});
-        real_.PaintPicture(imagen, x, y, ancho, alto);
+        notas.cuadros.push_back({destino_.Page(), x, y, ancho, alto});
+        destino_.PaintPicture(imagen, x, y, ancho, alto);
     }
-    int Page() const override { return real_.Page(); }
     void NewPage() override
     {
         diagrama_ = 0;
-        real_.NewPage();
+        destino_.NewPage();
     }
-    void EndDoc() override { real_.EndDoc(); }
 
     Notas notas;
 
@@ -141,21 +113,20 @@ private:
     // The text split at its blanks, as a PDF reader splits it into words.
     Escrito Anota(const std::string& texto) const
     {
-        Escrito escrito{texto, real_.Page(), real_.CurrentX(), real_.CurrentY(), diagrama_, {}};
+        Escrito escrito{texto, destino_.Page(), destino_.CurrentX(), destino_.CurrentY(), diagrama_, {}};
         constexpr char kBlancos[] = " \t";
         std::size_t inicio = texto.find_first_not_of(kBlancos);
         while (inicio != std::string::npos) {
             const std::size_t fin = texto.find_first_of(kBlancos, inicio);
             const std::string palabra = texto.substr(inicio, fin - inicio);
             escrito.palabras.push_back({QString::fromStdString(palabra),
-                                        escrito.x + real_.TextWidth(texto.substr(0, inicio)),
-                                        real_.TextWidth(palabra)});
+                                        escrito.x + destino_.TextWidth(texto.substr(0, inicio)),
+                                        destino_.TextWidth(palabra)});
             inicio = texto.find_first_not_of(kBlancos, fin);
         }
         return escrito;
     }
 
-    Impresora& real_;
     int escalas_ = 0;
     int diagrama_ = 0;
 };
