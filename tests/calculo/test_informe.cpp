@@ -66,6 +66,40 @@ int Cuenta(const ImpresoraDoble& impresora, const std::string& nombre)
                                           [&nombre](const Operacion& op) { return op.nombre == nombre; }));
 }
 
+TEST(InformeCalculo, CadaElementoDeUnaTablaConSuNombre)
+{
+    DirectorioTemporal directorio;
+    const std::string tabla = directorio.Escribe(
+        "t.csv", "elemento;tipo;ANCHO;CANTO;MD\r\nViga 1/2;rectangular;0,4;0,6;250\r\nP-1;rectangular;0,4;0,6;0\r\n");
+    const std::string carpeta = directorio.Fichero("informes");
+    ImpresorasDePrueba impresoras;
+    const Ejecucion ejecucion = EjecutaCalculo({"--tabla", "--informe", carpeta, tabla}, ',', impresoras.Dispositivos());
+    EXPECT_EQ(ejecucion.estado, 0) << ejecucion.errores;
+    EXPECT_EQ(impresoras.ficheros, (std::vector<std::string>{carpeta + "/Viga 1_2.pdf", carpeta + "/P-1.pdf"}));
+    ASSERT_EQ(impresoras.impresoras.size(), 2u);
+    EXPECT_EQ(Cuenta(impresoras.impresoras[0], "EndDoc"), 1);
+}
+
+TEST(InformeCalculo, ElInformeConjuntoEsUnSoloDocumento)
+{
+    DirectorioTemporal directorio;
+    const std::string tabla = directorio.Escribe(
+        "t.csv", "elemento;tipo;ANCHO;CANTO;MD\r\nV-1;rectangular;0,4;0,6;250\r\nP-1;rectangular;0,4;0,6;0\r\n");
+    const std::string destino = directorio.Fichero("edificio.PDF");
+    ImpresorasDePrueba impresoras;
+    const Ejecucion ejecucion = EjecutaCalculo({"--tabla", "--informe", destino, tabla}, ',', impresoras.Dispositivos());
+    EXPECT_EQ(ejecucion.estado, 0) << ejecucion.errores;
+    EXPECT_EQ(impresoras.ficheros, std::vector<std::string>{destino});
+    ASSERT_EQ(impresoras.impresoras.size(), 1u);
+    const ImpresoraDoble& impresora = impresoras.impresoras[0];
+    // The summary, then each report on a new page; the document ends once.
+    EXPECT_TRUE(Imprimio(impresora, "RESUMEN DE LOS ELEMENTOS"));
+    EXPECT_TRUE(Imprimio(impresora, "V-1"));
+    EXPECT_TRUE(Imprimio(impresora, "P-1"));
+    EXPECT_EQ(Cuenta(impresora, "EndDoc"), 1);
+    EXPECT_GE(Cuenta(impresora, "NewPage"), 2);
+}
+
 TEST(InformeCalculo, CadaFicheroEnLaCarpetaConSuNombre)
 {
     DirectorioTemporal directorio;
