@@ -27,9 +27,16 @@ def comprueba(condicion, mensaje):
 
 
 def ejecuta(programa, argumentos):
+    """Runs the command with its outputs in files, not pipes: under Wine a program that draws
+    starts Wine's desktop, which inherits the outputs and keeps a pipe open after the program
+    has ended."""
     entorno = dict(os.environ)
     entorno.pop("DISPLAY", None)
-    return subprocess.run([programa] + argumentos, capture_output=True, check=False, env=entorno)
+    with tempfile.TemporaryFile() as salida, tempfile.TemporaryFile() as errores:
+        hecho = subprocess.run([programa] + argumentos, stdout=salida, stderr=errores, check=False, env=entorno)
+        salida.seek(0)
+        errores.seek(0)
+        return subprocess.CompletedProcess(hecho.args, hecho.returncode, salida.read(), errores.read())
 
 
 def paginas(pdf):
