@@ -156,7 +156,8 @@ void MomentoCapas(const General& g, GeneralDibujo& d, char separador)
     for (int k = 1; k <= g.MAXCAPAS + 1; ++k) LineaRejilla(d, 0.0, k, R, k);
     MarcaMomento(g, d, r, H);
     EtiquetasMomento(d, r, -H / 10.0, separador);
-    // The layer counts are labelled up to MAXCAPAS only, though the grid reaches one more.
+    // On purpose: the layer counts are labelled up to MAXCAPAS only, though the grid reaches
+    // one more.
     for (int k = 1; k <= g.MAXCAPAS; ++k) EtiquetaVertical(d, 0.0, k, FormatoTexto(Formato(k, "0", separador), "@@"));
     NombreMomento(d, r);
     NombreEje(d, 0.0, g.MAXCAPAS * 1.25, "Nº capas");

@@ -77,8 +77,9 @@ struct Seccion {
         return CC(x) - FSS(es2) - FSI(es1) - fr;
     }
 
-    // Moment about the bottom face, where the sheet lies: the sheet has no lever in it. The
-    // concrete force takes the lever of a rectangular block even when it reaches the web.
+    // Moment about the bottom face, where the sheet lies: the sheet has no lever in it.
+    // On purpose: the concrete force takes the lever of a rectangular block even when it
+    // reaches the web.
     double MOM(double x, double es1, double es2) const
     {
         if (x >= r) return (h - 0.8 * x / 2.0) * CC(x) + d * FSS(es2) - FSI(es1) * r;

@@ -273,8 +273,8 @@ DatosFlexion LeeDatosFlexion(LectorValores& lector, Entero tipo)
     return d;
 }
 
-// The checks run on the values as read: a negative pair of widths that passes them is kept as
-// positive values afterwards, which the screens would not allow; that is intended.
+// On purpose: the checks run on the values as read, so a negative pair of widths that passes
+// them is kept as positive values afterwards, which the screens would not allow.
 bool CompruebaFlexion(const DatosFlexion& d, Entero tipo)
 {
     if (tipo != kRectangular && tipo != kSeccionT) return false;

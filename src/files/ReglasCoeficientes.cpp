@@ -16,8 +16,8 @@ ReglaCampo Coeficiente(const char* control, CampoEstado campo, double inicial, c
 
 }  // namespace
 
-// The messages are worded as the users have always read them, "de ser un número" and the
-// steel's "menor de 1" included.
+// On purpose: the messages are worded as the users have always read them, "de ser un número"
+// and the steel's "menor de 1" included.
 const std::vector<ReglaCampo>& ReglasCoeficientes()
 {
     static const std::vector<ReglaCampo> reglas = {

@@ -11,8 +11,9 @@ namespace {
 constexpr char kMensajeLadoMenor[] = "El lado menor debe ser un número más pequeño que el lado mayor.";
 constexpr char kMensajeRelacion[] = "La relación entre lados del elemento a confinar debe ser menor de 1,5.";
 
-// The short side above the long one is refused as the short side is typed, but a long side
-// typed below the short one passes its own field, and Calculate goes ahead with the two.
+// On purpose: the short side above the long one is refused as the short side is typed, but a
+// long side typed below the short one passes its own field, and Calculate goes ahead with the
+// two.
 PruebaPropia SoloAlAceptar(PruebaPropia prueba)
 {
     prueba.soloAlAceptar = true;
@@ -47,7 +48,7 @@ std::vector<ReglaCampo> Construye()
          {SoloAlAceptar(Dura([](double v, const General& g) { return v > g.DIAM; }, kMensajeLadoMenor)),
           Dura([](double v, const General& g) { return RelacionLados(g.DIAM, v) >= kRelacionMaxima; },
                kMensajeRelacion)}},
-        // Exactly 1 passes, though the message asks for more than 1.
+        // On purpose: exactly 1 passes, though the message asks for more than 1.
         {"TX_INCR",
          &General::INCR,
          "0.00",

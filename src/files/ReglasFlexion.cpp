@@ -26,7 +26,7 @@ ReglaCampo Ancho(bool seccionT)
 
 ReglaCampo AnchoAlma()
 {
-    // A width below the bound resets the flange width, not the web's: kept as it stands.
+    // On purpose: a width below the bound resets the flange width, not the web's.
     return {"TX_ANCHOALMA",
             &General::ANCHOALMA,
             "0.000",
@@ -60,7 +60,7 @@ ReglaCampo Canto(bool seccionT)
 
 ReglaCampo CantoAla()
 {
-    // A depth below the bound resets the total depth, not the flange's: kept as it stands.
+    // On purpose: a depth below the bound resets the total depth, not the flange's.
     return {"TX_CANTOALA",
             &General::CANTOALA,
             "0.000",
@@ -105,7 +105,7 @@ std::vector<ReglaCampo> Comunes()
          Limite{kMinimoLongitud, "La armadura inferior de la sección debe ser mayor que cero."},
          std::nullopt,
          {}},
-        // The reset of the top steel is 10, though its start value is 0: kept as it stands.
+        // On purpose: the reset of the top steel is 10, though its start value is 0.
         {"TX_ASS",
          &General::ASS,
          "0.00",

@@ -37,7 +37,8 @@ protected:
 private:
     QWidget* CreaDatos();
     QWidget* CreaValoresAdoptados();
-    // The steps of a change of section; a click also greys the diagram button, a key does not.
+    // The steps of a change of section. On purpose: a click also greys the diagram button, a
+    // key does not.
     void CambioSeccion(bool porClic);
     void ActivaLadoMenor(bool activo);
     void EscribeCoeficienteForma();

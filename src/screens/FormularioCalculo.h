@@ -48,7 +48,8 @@ protected:
         QString titulo;  // the caption
         std::vector<const char*> botonesResultado;  // disabled by an accepted field
         // The flexure grids ignore their selection changes while F_CALCULANDO is set, as their
-        // Calculate moves the selection itself; the confinement grid has no such guard.
+        // Calculate moves the selection itself. On purpose: the confinement grid has no such
+        // guard.
         bool seleccionGuardada;
     };
     FormularioCalculo(const Forma& forma, QWidget* padre);

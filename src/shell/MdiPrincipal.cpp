@@ -170,7 +170,7 @@ void MdiPrincipal::Carga()
 
 bool MdiPrincipal::ResolucionSuficiente() const
 {
-    // Deliberately an And: a screen is refused only when it is short in both directions.
+    // On purpose: an And, so that a screen is refused only when it is short in both directions.
     const QSizeF pantalla = plataforma::ServicioMonitor().Tamano();
     return !(pantalla.width() < kAncho && pantalla.height() < kAlto);
 }
@@ -469,8 +469,8 @@ bool MdiPrincipal::eventFilter(QObject* objeto, QEvent* evento)
     // A click on the empty background of the main window closes the splash.
     if (objeto == area_->viewport() && evento->type() == QEvent::MouseButtonPress) CierraPresentacion();
 
-    // The menu's shortcuts win over the text fields' own, whatever has the focus: Ctrl+C
-    // starts a new confinement calculation and does not copy.
+    // On purpose: the menu's shortcuts win over the text fields' own, whatever has the focus:
+    // Ctrl+C starts a new confinement calculation and does not copy.
     if (evento->type() == QEvent::ShortcutOverride) {
         auto* widget = qobject_cast<QWidget*>(objeto);
         const auto* tecla = static_cast<QKeyEvent*>(evento);
