@@ -42,7 +42,8 @@ std::string_view TextoVeredicto(Veredicto veredicto)
 
 Veredicto VeredictoFlexion(double MD, double MUSR, double MUMAX)
 {
-    // The first test wins: an MD below MUSR is green even if it also lies above MUMAX.
+    // On purpose: the first test wins, so an MD below MUSR is green even if it also lies above
+    // MUMAX.
     if (MD < MUSR) return Veredicto::NoEsNecesario;
     if (MD > MUMAX) return Veredicto::NoSePuede;
     return Veredicto::Oculto;

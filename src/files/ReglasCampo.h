@@ -60,8 +60,8 @@ struct ResultadoCampo {
     std::string companero;  // where a soft failure sends the focus
 };
 
-// The lower bound of every length, steel area and sheet width: 0.01 whatever the unit, though
-// the messages say "mayor que cero".
+// The lower bound of every length, steel area and sheet width: 0.01 whatever the unit.
+// On purpose: the messages say "mayor que cero".
 constexpr double kMinimoLongitud = 0.01;
 
 // A test whose failure keeps the value and sends the user to the partner control.

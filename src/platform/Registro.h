@@ -50,8 +50,8 @@ bool LeeRegistro(ApiRegistro& api, std::uint32_t raiz, const std::string& clave,
                  std::string& texto);
 
 // The registered command line cut after ".exe" and its next character, with the argument
-// appended as it is: no blank, no quotes. ".exe" is sought in small letters only; a command
-// line that has it in capitals keeps just its first four characters.
+// appended as it is: no blank, no quotes. On purpose: ".exe" is sought in small letters only;
+// a command line that has it in capitals keeps just its first four characters.
 std::string LineaDeOrden(const std::string& ordenRegistrada, const std::string& argumento);
 
 // The launches of the program: each reads the registry, builds the command line and starts

@@ -33,7 +33,7 @@ constexpr double kSaltoPrimerResultado = 3.5;
 constexpr double kCorteDiagrama = 12.0;
 constexpr double kArribaSeccion = 5.0;
 
-// The word of the shape. The rectangle has none: its value stays blank.
+// The word of the shape. On purpose: the rectangle has none, and its value stays blank.
 std::string NombreForma(int filaSeccion)
 {
     if (filaSeccion == kFilaCircular) return "CIRCULAR";
@@ -83,8 +83,9 @@ double DatosAuxiliares(Impresora& impresora, const Pagina& pagina, const General
 }
 
 // The lower right block: the cell on show and its results, from the texts of the result
-// fields. The initial strain has no blank before its sign here, and the confinement stress no
-// unit.
+// fields.
+// On purpose: the initial strain has no blank before its sign here, and the confinement stress
+// no unit.
 void Resultados(Impresora& impresora, const Pagina& pagina, double y0, const ResultadosCeldaConfina& celda,
                 char separador)
 {

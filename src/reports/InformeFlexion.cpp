@@ -40,8 +40,8 @@ constexpr double kSaltoVeredicto = 2.0;
 constexpr double kPieDiagramas = 5.0;
 constexpr double kCortePagina2 = 13.0;
 
-// The colon of both moment labels with a subscript is placed after the width of this text, also
-// where the subscript is "lím" and the colon then does not fall right behind it.
+// On purpose: the colon of both moment labels with a subscript is placed after the width of this
+// text, also where the subscript is "lím" and the colon then does not fall right behind it.
 constexpr char kAnteDosPuntosMomento[] = "MRB";
 
 // The left block: the data of the section, its materials, the safety coefficients, the sheet
@@ -87,7 +87,8 @@ double Resultados(Impresora& impresora, const Pagina& pagina, const ResultadosCe
     Escribe(impresora, x, kYCelda, std::string(Recortado(celda.tipo)));
     double y = kYPrimerResultado;
     Fila(impresora, x, y, "Momento último s/r:", momento(celda.MUSR));
-    // The initial strain has a blank before its sign; the strains of the cell have none.
+    // On purpose: the initial strain has a blank before its sign; the strains of the cell have
+    // none.
     Fila(impresora, x, y, "Predeformación inicial:", milesimas(celda.EPS0) + " ‰");
     FilaConSubindice(impresora, x, y, "M", "RB", kAnteDosPuntosMomento, momento(celda.MRB));
     FilaConSubindice(impresora, x, y, "M", "lím", kAnteDosPuntosMomento, momento(celda.MLIMCR));
@@ -101,8 +102,8 @@ double Resultados(Impresora& impresora, const Pagina& pagina, const ResultadosCe
     return y;
 }
 
-// The verdict of a section without results, centred on the width of an A4 sheet whatever the
-// printer's printable width.
+// The verdict of a section without results.
+// On purpose: centred on the width of an A4 sheet whatever the printer's printable width.
 void ImprimeVeredicto(Impresora& impresora, double y, Veredicto veredicto)
 {
     const std::string texto(TextoVeredicto(veredicto));

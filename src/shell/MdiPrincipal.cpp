@@ -251,7 +251,7 @@ void MdiPrincipal::ActivaGuardarEImprimir(bool guardar, bool imprimir)
 void MdiPrincipal::PantallaActivada(Pantalla pantalla)
 {
     if (!FilaDe(pantalla).conProyecto) {
-        // A screen without a file: button 3 stays as the last unload left it.
+        // On purpose: for a screen without a file, button 3 stays as the last unload left it.
         ActivaGuardarEImprimir(false, true);
         return;
     }

@@ -11,13 +11,13 @@ namespace texalon {
 std::string_view Recortado(std::string_view texto);
 
 // Value of a field's text. The text is cut to the length it has once its
-// leading and trailing blanks are trimmed (note: the cut is taken from the
-// untrimmed text), each comma becomes a period and the result is read as a
+// leading and trailing blanks are trimmed, each comma becomes a period and the result is read as a
 // plain number: blanks are skipped anywhere, an optional sign, digits with at
 // most one period, an optional exponent E/e/D/d; reading stops at the first
 // character that cannot belong to the number, and text without a number
 // reads 0. A value too large for a double gives +/-HUGE_VAL; callers test the
 // text with EsNumerico first, which refuses such text. Underflow gives 0.
+// On purpose: the cut to the trimmed length is taken from the untrimmed text.
 double Decimales(std::string_view texto);
 
 // The plain number reading that Decimales ends with, with the period as the
