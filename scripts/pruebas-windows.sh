@@ -29,6 +29,10 @@ trap 'WINEPREFIX="$prefijo" wineserver -k 2>/dev/null || true' EXIT
 "$emulador" wineboot --init >/dev/null 2>&1
 echo "Prefijo de Wine listo en $(( $(date +%s) - inicio )) s: $prefijo"
 
+# The starts that Wine gave up before the program ran (scripts/wine.sh.in), counted for the run.
+export TEXALON_WINE_REGISTRO="$PWD/$construccion/arranques-fallidos.txt"
+rm -f "$TEXALON_WINE_REGISTRO"
+
 fallos=0
 for ajuste in "${AJUSTES_REGIONALES[@]}"; do
   echo "== Pruebas de Windows bajo Wine con $ajuste =="
@@ -38,4 +42,7 @@ for ajuste in "${AJUSTES_REGIONALES[@]}"; do
   LC_ALL=$ajuste LANG=$ajuste ctest --test-dir "$construccion" --output-on-failure -j"$(nproc)" || fallos=1
 done
 echo "Pruebas de Windows en $(( $(date +%s) - inicio )) s"
+if [ -s "$TEXALON_WINE_REGISTRO" ]; then
+  echo "Arranques de Wine repetidos: $(wc -l < "$TEXALON_WINE_REGISTRO") (en $TEXALON_WINE_REGISTRO)"
+fi
 exit $fallos
