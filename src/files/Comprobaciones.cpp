@@ -1,14 +1,12 @@
 #include "files/Comprobaciones.h"
 
+#include "files/Limites.h"
+
 namespace texalon {
 
 namespace {
 
-constexpr double kFckMinimo = 15.0;
-constexpr double kFckMaximo = 50.0;
-constexpr double kFykMinimo = 300.0;
-constexpr double kFykMaximo = 600.0;
-constexpr double kIncrMinimo = 1.0;
+using namespace limites;
 
 bool EnIntervalo(double valor, double minimo, double maximo) { return valor >= minimo && valor <= maximo; }
 

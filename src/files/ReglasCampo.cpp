@@ -1,5 +1,6 @@
 #include "files/ReglasCampo.h"
 
+#include "files/Limites.h"
 #include "state/Decimales.h"
 #include "state/Formato.h"
 
@@ -44,8 +45,8 @@ ReglaCampo ReglaFck()
             25.0,
             "Debe darse la resistencia del hormigón de la sección.",
             "La resistencia del hormigón de la sección debe ser un número.",
-            Limite{50.0, "La resistencia del hormigón de la sección no puede ser mayor de 50 N/mm²."},
-            Limite{15.0, "La resistencia del hormigón de la sección no puede ser menor de 15 N/mm²."},
+            Limite{limites::kFckMaximo, "La resistencia del hormigón de la sección no puede ser mayor de 50 N/mm²."},
+            Limite{limites::kFckMinimo, "La resistencia del hormigón de la sección no puede ser menor de 15 N/mm²."},
             std::nullopt,
             {}};
 }

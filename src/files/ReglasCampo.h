@@ -60,10 +60,6 @@ struct ResultadoCampo {
     std::string companero;  // where a soft failure sends the focus
 };
 
-// The lower bound of every length, steel area and sheet width: 0.01 whatever the unit.
-// On purpose: the messages say "mayor que cero".
-constexpr double kMinimoLongitud = 0.01;
-
 // A test whose failure keeps the value and sends the user to the partner control.
 PruebaPropia Blanda(std::function<bool(double, const General&)> falla, std::string mensaje, std::string companero);
 // A test whose failure resets the field.

@@ -1,16 +1,15 @@
 #include "files/ReglasCoeficientes.h"
 
+#include "files/Limites.h"
+
 namespace texalon {
 
 namespace {
 
-// A coefficient below 1 would make the design strengths larger than the characteristic ones.
-constexpr double kCoeficienteMinimo = 1.0;
-
 ReglaCampo Coeficiente(const char* control, CampoEstado campo, double inicial, const char* vacio,
                        const char* noNumero, const char* menorQueUno)
 {
-    return {control, campo, "0.00", inicial, vacio, noNumero, std::nullopt, Limite{kCoeficienteMinimo, menorQueUno},
+    return {control, campo, "0.00", inicial, vacio, noNumero, std::nullopt, Limite{limites::kCoeficienteMinimo, menorQueUno},
             std::nullopt, {}};
 }
 

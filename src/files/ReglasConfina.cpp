@@ -1,5 +1,6 @@
 #include "files/ReglasConfina.h"
 
+#include "files/Limites.h"
 #include "engine/Calculos.h"
 
 #include <cmath>
@@ -30,11 +31,11 @@ std::vector<ReglaCampo> Construye()
          "Debe darse el diámetro o lado del elemento a confinar.",
          "El diámetro o lado debe ser un número.",
          std::nullopt,
-         Limite{kMinimoLongitud, "El diámetro o lado debe ser mayor que cero."},
+         Limite{limites::kLongitudMinima, "El diámetro o lado debe ser mayor que cero."},
          std::nullopt,
          // Only a rectangle has a ratio of sides; no test compares the side with LADOMENOR.
          {Dura([](double v,
-                  const General& g) { return g.SECCION == 3 && RelacionLados(v, g.LADOMENOR) >= kRelacionMaxima; },
+                  const General& g) { return g.SECCION == 3 && RelacionLados(v, g.LADOMENOR) >= limites::kRelacionLadosMaxima; },
                kMensajeRelacion)}},
         {"TX_LADOMENOR",
          &General::LADOMENOR,
@@ -43,10 +44,10 @@ std::vector<ReglaCampo> Construye()
          "Debe darse el lado menor del elemento a confinar.",
          "El lado menor debe ser un número.",
          std::nullopt,
-         Limite{kMinimoLongitud, "El lado menor debe ser mayor que cero."},
+         Limite{limites::kLongitudMinima, "El lado menor debe ser mayor que cero."},
          std::nullopt,
          {SoloAlAceptar(Dura([](double v, const General& g) { return v > g.DIAM; }, kMensajeLadoMenor)),
-          Dura([](double v, const General& g) { return RelacionLados(g.DIAM, v) >= kRelacionMaxima; },
+          Dura([](double v, const General& g) { return RelacionLados(g.DIAM, v) >= limites::kRelacionLadosMaxima; },
                kMensajeRelacion)}},
         // On purpose: exactly 1 passes, though the message asks for more than 1.
         {"TX_INCR",
@@ -56,7 +57,7 @@ std::vector<ReglaCampo> Construye()
          "Debe darse el incremento de resistencia necesario.",
          "El incremento de resistencia necesario debe ser un número.",
          std::nullopt,
-         Limite{1.0, "El incremento de resistencia necesario debe ser mayor que 1."},
+         Limite{limites::kIncrMinimo, "El incremento de resistencia necesario debe ser mayor que 1."},
          std::nullopt,
          {}},
         {"TX_NCP",
@@ -113,7 +114,7 @@ CambioSeccion CambiaSeccion(General& g, int fila)
         cambio.ladoMenorActivo = true;
         if (g.DIAM < g.LADOMENOR) cambio.mensaje = kMensajeLadoMenor;
         // Exactly 1.5 passes here, where the fields refuse it.
-        if (RelacionLados(g.DIAM, g.LADOMENOR) > kRelacionMaxima) cambio.mensaje = kMensajeRelacion;
+        if (RelacionLados(g.DIAM, g.LADOMENOR) > limites::kRelacionLadosMaxima) cambio.mensaje = kMensajeRelacion;
     }
     g.F_MODIFICADO = true;
     g.F_CALCULADO = false;

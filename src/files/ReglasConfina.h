@@ -25,9 +25,6 @@ constexpr int kFilaRectangular = 2;
 // their binary quotient may fall a hair short (0.6 / 0.4 gives 1.4999999999999998), so it is
 // taken to nine decimals, and 0.6 by 0.4 is a ratio of 1.5.
 double RelacionLados(double mayor, double menor);
-// The greatest ratio of the sides of a rectangular column. On purpose: the field tests refuse
-// it and above, the change of section refuses only above it.
-constexpr double kRelacionMaxima = 1.5;
 
 // ALFAN for a row of CO_SECCION: 1 circular, 1 - 2/3 square, 1 - (2/3) DIAM / LADOMENOR
 // rectangular, with the sides of the state. With no row selected (-1) ALFAN keeps its value.

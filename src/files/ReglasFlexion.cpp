@@ -1,5 +1,7 @@
 #include "files/ReglasFlexion.h"
 
+#include "files/Limites.h"
+
 namespace texalon {
 
 namespace {
@@ -13,7 +15,7 @@ ReglaCampo Ancho(bool seccionT)
                  "Debe darse el ancho de la sección.",
                  "El ancho de la sección debe ser un número.",
                  std::nullopt,
-                 Limite{kMinimoLongitud, "El ancho de la sección debe ser un número mayor que cero."},
+                 Limite{limites::kLongitudMinima, "El ancho de la sección debe ser un número mayor que cero."},
                  std::nullopt,
                  {}};
     // On the rectangular screen only, a width below the sheet's sends the user to the sheet.
@@ -34,7 +36,7 @@ ReglaCampo AnchoAlma()
             "Debe darse el ancho del alma de la sección.",
             "El ancho del alma de la sección debe ser un número.",
             std::nullopt,
-            Limite{kMinimoLongitud, "El ancho del alma de la sección debe ser un número mayor que cero."},
+            Limite{limites::kLongitudMinima, "El ancho del alma de la sección debe ser un número mayor que cero."},
             &General::ANCHO,
             {Blanda([](double v, const General& g) { return v < g.ANCHOR; },
                     "El ancho del refuerzo no puede ser mayor que el ancho del alma de la sección.", "CO_ANCHOR")}};
@@ -49,7 +51,7 @@ ReglaCampo Canto(bool seccionT)
                  "Debe darse el canto de la sección.",
                  "El canto de la sección debe ser un número.",
                  std::nullopt,
-                 Limite{kMinimoLongitud, "El canto de la sección debe ser un número mayor que cero."},
+                 Limite{limites::kLongitudMinima, "El canto de la sección debe ser un número mayor que cero."},
                  std::nullopt,
                  {}};
     if (seccionT)
@@ -68,7 +70,7 @@ ReglaCampo CantoAla()
             "Debe darse el canto del ala de la sección.",
             "El canto del ala de la sección debe ser un número.",
             std::nullopt,
-            Limite{kMinimoLongitud, "El canto del ala de la sección debe ser un número mayor que cero."},
+            Limite{limites::kLongitudMinima, "El canto del ala de la sección debe ser un número mayor que cero."},
             &General::CANTO,
             {Dura([](double v, const General& g) { return v > g.CANTO; },
                   "El canto del ala no puede ser mayor que el canto de la sección.")}};
@@ -91,7 +93,7 @@ std::vector<ReglaCampo> Comunes()
          "Debe darse el recubrimiento de la sección.",
          "El recubrimiento de la sección debe ser un número.",
          std::nullopt,
-         Limite{kMinimoLongitud, "El recubrimiento de la sección debe ser mayor que cero."},
+         Limite{limites::kLongitudMinima, "El recubrimiento de la sección debe ser mayor que cero."},
          std::nullopt,
          // On purpose: exactly half the depth passes, though the message says "menor".
          {Dura([](double v, const General& g) { return v > g.CANTO / 2.0; },
@@ -103,7 +105,7 @@ std::vector<ReglaCampo> Comunes()
          "Debe darse la armadura inferior de la sección.",
          "La armadura inferior de la sección debe ser un número.",
          std::nullopt,
-         Limite{kMinimoLongitud, "La armadura inferior de la sección debe ser mayor que cero."},
+         Limite{limites::kLongitudMinima, "La armadura inferior de la sección debe ser mayor que cero."},
          std::nullopt,
          {}},
         // On purpose: the reset of the top steel is 10, though its start value is 0.
@@ -144,8 +146,8 @@ std::vector<ReglaCampo> Comunes()
          500.0,
          "Debe darse la resistencia del acero de las armaduras de la sección.",
          "La resistencia del acero de las armaduras de la sección debe ser un número.",
-         Limite{600.0, "La resistencia del acero de las armaduras no puede ser mayor de 600 N/mm²."},
-         Limite{300.0, "La resistencia del acero de las armaduras no puede ser menor de 300 N/mm²."},
+         Limite{limites::kFykMaximo, "La resistencia del acero de las armaduras no puede ser mayor de 600 N/mm²."},
+         Limite{limites::kFykMinimo, "La resistencia del acero de las armaduras no puede ser menor de 300 N/mm²."},
          std::nullopt,
          {}},
         {"CO_ANCHOR",
@@ -155,7 +157,7 @@ std::vector<ReglaCampo> Comunes()
          "Debe darse el ancho del refuerzo a disponer en la sección.",
          "El ancho del refuerzo a disponer en la sección debe ser un número.",
          std::nullopt,
-         Limite{kMinimoLongitud, "El ancho del refuerzo a disponer en la sección debe ser mayor que cero."},
+         Limite{limites::kLongitudMinima, "El ancho del refuerzo a disponer en la sección debe ser mayor que cero."},
          std::nullopt,
          {anchoRefuerzo}},
     };
