@@ -22,87 +22,87 @@
 
 namespace texalon {
 
+// One command of the main window, written once and read by the menu and the toolbar: its menu
+// item's name, caption, shortcut, state at start and action; and, for a command the toolbar
+// carries, the button's key, tooltip, picture and action. Open and Save from the toolbar leave
+// F_ABIERTO as it was when their dialog is cancelled, so the toolbar has an action of its own
+// there; elsewhere it does what the menu does. A separator is an item with a name and nothing
+// else. No command has a help topic of its own: F1 gives the open screen's.
+struct OrdenPrincipal {
+    using Accion = void (MdiPrincipal::*)();
+
+    const char* nombre;
+    const char* titulo = nullptr;
+    const char* atajo = "";
+    bool activo = true;
+    Accion desdeMenu = nullptr;
+    const char* clave = nullptr;
+    const char* consejo = nullptr;
+    const char* imagen = nullptr;
+    Accion desdeBarra = nullptr;
+
+    Accion AccionDeBarra() const { return desdeBarra != nullptr ? desdeBarra : desdeMenu; }
+};
+
 namespace {
 
-using Orden = void (MdiPrincipal::*)();
+constexpr OrdenPrincipal kAbrir{"mnuPrincipalAbrir", "&Abrir datos", "Ctrl+A", true, &MdiPrincipal::AbrirDesdeMenu,
+                       "Abrir", "Abrir", "abrir", &MdiPrincipal::AbrirDesdeBarra};
+constexpr OrdenPrincipal kGuardar{"mnuPrincipalGuardar", "&Guardar datos", "Ctrl+S", false, &MdiPrincipal::GuardarDesdeMenu,
+                         "Guardar", "Guardar", "guardar", &MdiPrincipal::GuardarDesdeBarra};
+constexpr OrdenPrincipal kGuardarComo{"mnuPrincipalGuardarcomo", "G&uardar datos como...", "", false, &MdiPrincipal::GuardarComo};
+constexpr OrdenPrincipal kImprimir{"mnuPrincipalImprimir", "&Imprimir", "Ctrl+I", false, &MdiPrincipal::Imprimir,
+                          "Imprimir", "Imprimir", "imprimir"};
+constexpr OrdenPrincipal kConfigurar{"mnuPrincipalConfigurar", "&Configurar impresora", "", true,
+                            &MdiPrincipal::ConfigurarImpresora};
+constexpr OrdenPrincipal kSalir{"mnuPrincipalSalir", "&Salir", "F7", true, &MdiPrincipal::Salir};
+constexpr OrdenPrincipal kFlexion{"mnuCalcularFlexion", "Refuerzo a &flexión. Sección rectangular", "Ctrl+R", true,
+                         &MdiPrincipal::NuevaFlexion, "FlexionR", "Refuerzo a flexión. Sección rectangular",
+                         "flexion_r"};
+constexpr OrdenPrincipal kFlexionT{"mnuCalcularFlexionT", "Refuerzo a fle&xión. Sección en T", "Ctrl+T", true,
+                          &MdiPrincipal::NuevaFlexionT, "FlexionT", "Refuerzo a flexión. Sección en T", "flexion_t"};
+constexpr OrdenPrincipal kConfina{"mnuCalcularConfina", "Refuerzo a con&finamiento", "Ctrl+C", true,
+                         &MdiPrincipal::NuevoConfinamiento, "Confina", "Refuerzo de confinamiento", "confina"};
+constexpr OrdenPrincipal kCarac{"mnuCalcularCarac", "Ca&racterísticas mecánicas del refuerzo", "", true,
+                       &MdiPrincipal::Caracteristicas, "Carac", "Características mecánicas", "carac"};
+constexpr OrdenPrincipal kAyudaPrograma{"mnuAyudaPrograma", "Ayuda del programa", "F1", true, &MdiPrincipal::AyudaPrograma,
+                               "Ayuda", "Ayuda del programa", "ayuda"};
+constexpr OrdenPrincipal kManual{"mnuAyudaManual", "Manual de referencia", "", true, &MdiPrincipal::Guia,
+                        "Guia", "Manual de referencia", "guia"};
+constexpr OrdenPrincipal kWeb{"mnuAyudaWeb", "Velmora en la web", "", true, &MdiPrincipal::Web,
+                     "Web", "Velmora en la web", "web"};
+constexpr OrdenPrincipal kContactar{"mnuAyudaContactar", "Contactar con Velmora", "", true, &MdiPrincipal::Contactar,
+                           "Mail", "Contactar con Velmora", "mail"};
+constexpr OrdenPrincipal kAcerca{"mnuAyudaAcerca", "Acerca de...", "", true, &MdiPrincipal::AcercaDe,
+                        "Info", "Acerca de...", "info"};
 
-// One entry of a menu: its name, caption, shortcut, state at start and command. An entry
-// without a caption is a separator; one without a command has it from the unit that tells it.
-struct EntradaMenu {
-    const char* nombre;
-    const char* titulo;
-    const char* atajo;
-    bool activo;
-    Orden orden;
-};
+constexpr OrdenPrincipal kPrincipalNada1{"mnuPrincipalNada1"};
+constexpr OrdenPrincipal kPrincipalNada2{"mnuPrincipalNada2"};
+constexpr OrdenPrincipal kCalcularNada1{"mnuCalcularNada1"};
+constexpr OrdenPrincipal kAyudaNada1{"mnuAyudaNada1"};
+constexpr OrdenPrincipal kAyudaNada2{"mnuAyudaNada2"};
+
+constexpr const OrdenPrincipal* kPrincipal[] = {&kAbrir, &kGuardar, &kGuardarComo, &kPrincipalNada1,
+                                       &kImprimir, &kConfigurar, &kPrincipalNada2, &kSalir};
+constexpr const OrdenPrincipal* kCalcular[] = {&kFlexion, &kFlexionT, &kConfina, &kCalcularNada1, &kCarac};
+constexpr const OrdenPrincipal* kAyuda[] = {&kAyudaPrograma, &kManual, &kAyudaNada1, &kWeb,
+                                   &kContactar, &kAyudaNada2, &kAcerca};
 
 struct Menu {
     const char* nombre;
     const char* titulo;
-    std::span<const EntradaMenu> entradas;
+    std::span<const OrdenPrincipal* const> ordenes;
 };
 
-const EntradaMenu kPrincipal[] = {
-    {"mnuPrincipalAbrir", "&Abrir datos", "Ctrl+A", true, &MdiPrincipal::AbrirDesdeMenu},
-    {"mnuPrincipalGuardar", "&Guardar datos", "Ctrl+S", false, &MdiPrincipal::GuardarDesdeMenu},
-    {"mnuPrincipalGuardarcomo", "G&uardar datos como...", "", false, &MdiPrincipal::GuardarComo},
-    {"mnuPrincipalNada1", nullptr, "", true, nullptr},
-    {"mnuPrincipalImprimir", "&Imprimir", "Ctrl+I", false, &MdiPrincipal::Imprimir},
-    {"mnuPrincipalConfigurar", "&Configurar impresora", "", true, &MdiPrincipal::ConfigurarImpresora},
-    {"mnuPrincipalNada2", nullptr, "", true, nullptr},
-    {"mnuPrincipalSalir", "&Salir", "F7", true, &MdiPrincipal::Salir},
-};
-
-const EntradaMenu kCalcular[] = {
-    {"mnuCalcularFlexion", "Refuerzo a &flexión. Sección rectangular", "Ctrl+R", true, &MdiPrincipal::NuevaFlexion},
-    {"mnuCalcularFlexionT", "Refuerzo a fle&xión. Sección en T", "Ctrl+T", true, &MdiPrincipal::NuevaFlexionT},
-    {"mnuCalcularConfina", "Refuerzo a con&finamiento", "Ctrl+C", true, &MdiPrincipal::NuevoConfinamiento},
-    {"mnuCalcularNada1", nullptr, "", true, nullptr},
-    {"mnuCalcularCarac", "Ca&racterísticas mecánicas del refuerzo", "", true, &MdiPrincipal::Caracteristicas},
-};
-
-const EntradaMenu kAyuda[] = {
-    {"mnuAyudaPrograma", "Ayuda del programa", "F1", true, &MdiPrincipal::AyudaPrograma},
-    {"mnuAyudaManual", "Manual de referencia", "", true, &MdiPrincipal::Guia},
-    {"mnuAyudaNada1", nullptr, "", true, nullptr},
-    {"mnuAyudaWeb", "Velmora en la web", "", true, &MdiPrincipal::Web},
-    {"mnuAyudaContactar", "Contactar con Velmora", "", true, &MdiPrincipal::Contactar},
-    {"mnuAyudaNada2", nullptr, "", true, nullptr},
-    {"mnuAyudaAcerca", "Acerca de...", "", true, &MdiPrincipal::AcercaDe},
-};
-
-const Menu kMenus[] = {
+constexpr Menu kMenus[] = {
     {"mnuPrincipal", "&Principal", kPrincipal},
     {"mnuCalcular", "&Calcular", kCalcular},
     {"mnuAyuda", "&Ayuda", kAyuda},
 };
 
-// The toolbar buttons after the leading separator: key, tooltip, picture and command. Open and
-// Save from the toolbar leave F_ABIERTO as it was when their dialog is cancelled.
-struct BotonBarra {
-    const char* clave;
-    const char* consejo;
-    const char* imagen;
-    Orden orden;
-};
-
-constexpr BotonBarra kBotones[] = {
-    {"Abrir", "Abrir", "abrir", &MdiPrincipal::AbrirDesdeBarra},
-    {"Guardar", "Guardar", "guardar", &MdiPrincipal::GuardarDesdeBarra},
-    {"Imprimir", "Imprimir", "imprimir", &MdiPrincipal::Imprimir},
-    {"Carac", "Características mecánicas", "carac", &MdiPrincipal::Caracteristicas},
-    {"FlexionR", "Refuerzo a flexión. Sección rectangular", "flexion_r", &MdiPrincipal::NuevaFlexion},
-    {"FlexionT", "Refuerzo a flexión. Sección en T", "flexion_t", &MdiPrincipal::NuevaFlexionT},
-    {"Confina", "Refuerzo de confinamiento", "confina", &MdiPrincipal::NuevoConfinamiento},
-    {"Ayuda", "Ayuda del programa", "ayuda", &MdiPrincipal::AyudaPrograma},
-    {"Guia", "Manual de referencia", "guia", &MdiPrincipal::Guia},
-    {"Web", "Velmora en la web", "web", &MdiPrincipal::Web},
-    {"Mail", "Contactar con Velmora", "mail", &MdiPrincipal::Contactar},
-    {"Info", "Acerca de...", "info", &MdiPrincipal::AcercaDe},
-};
-
-constexpr int kBotonGuardar = 3;
-constexpr int kBotonImprimir = 4;
+// The toolbar's buttons after its leading separator, in their order.
+constexpr const OrdenPrincipal* kBarra[] = {&kAbrir, &kGuardar, &kImprimir, &kCarac, &kFlexion, &kFlexionT,
+                                   &kConfina, &kAyudaPrograma, &kManual, &kWeb, &kContactar, &kAcerca};
 
 }  // namespace
 
@@ -182,18 +182,18 @@ void MdiPrincipal::CreaMenu()
         menu->setObjectName(QString::fromLatin1(definicion.nombre));
         menu->menuAction()->setObjectName(QString::fromLatin1(definicion.nombre));
         connect(menu, &QMenu::aboutToShow, this, &MdiPrincipal::CierraPresentacion);
-        for (const EntradaMenu& entrada : definicion.entradas) {
+        for (const OrdenPrincipal* orden : definicion.ordenes) {
             QAction* accion =
-                entrada.titulo == nullptr ? menu->addSeparator() : menu->addAction(QString::fromUtf8(entrada.titulo));
-            accion->setObjectName(QString::fromLatin1(entrada.nombre));
-            accion->setEnabled(entrada.activo);
-            const QKeySequence atajo(QString::fromLatin1(entrada.atajo));
+                orden->titulo == nullptr ? menu->addSeparator() : menu->addAction(QString::fromUtf8(orden->titulo));
+            accion->setObjectName(QString::fromLatin1(orden->nombre));
+            accion->setEnabled(orden->activo);
+            const QKeySequence atajo(QString::fromLatin1(orden->atajo));
             if (!atajo.isEmpty()) {
                 accion->setShortcut(atajo);
                 accion->setShortcutContext(Qt::WindowShortcut);
                 atajos_ << atajo;
             }
-            if (entrada.orden != nullptr) connect(accion, &QAction::triggered, this, entrada.orden);
+            if (orden->desdeMenu != nullptr) connect(accion, &QAction::triggered, this, orden->desdeMenu);
         }
     }
 }
@@ -207,17 +207,16 @@ void MdiPrincipal::CreaBarra()
     barra_->setContextMenuPolicy(Qt::PreventContextMenu);
     barra_->setIconSize(QSize(24, 24));
     barra_->addSeparator();
-    for (const BotonBarra& boton : kBotones) {
-        const QString clave = QString::fromLatin1(boton.clave);
+    for (const OrdenPrincipal* orden : kBarra) {
+        const QString clave = QString::fromLatin1(orden->clave);
         QAction* accion =
-            barra_->addAction(QIcon(QStringLiteral(":/iconos/%1.svg").arg(QString::fromLatin1(boton.imagen))),
-                              QString::fromUtf8(boton.consejo));
+            barra_->addAction(QIcon(QStringLiteral(":/iconos/%1.svg").arg(QString::fromLatin1(orden->imagen))),
+                              QString::fromUtf8(orden->consejo));
         accion->setObjectName(clave);
         accion->setData(clave);
-        accion->setToolTip(QString::fromUtf8(boton.consejo));
+        accion->setToolTip(QString::fromUtf8(orden->consejo));
+        accion->setEnabled(orden->activo);
     }
-    Boton(kBotonGuardar)->setEnabled(false);
-    Boton(kBotonImprimir)->setEnabled(false);
     connect(barra_, &QToolBar::actionTriggered, this,
             [this](QAction* accion) { TB_BARRA_ButtonClick(accion->data().toString()); });
 }
@@ -235,6 +234,16 @@ QAction* MdiPrincipal::Boton(int indice) const
     return indice >= 1 && indice <= botones.size() ? botones.at(indice - 1) : nullptr;
 }
 
+QAction* MdiPrincipal::ElementoDe(const OrdenPrincipal& orden) const
+{
+    return ElementoMenu(QString::fromLatin1(orden.nombre));
+}
+
+QAction* MdiPrincipal::BotonDe(const OrdenPrincipal& orden) const
+{
+    return barra_->findChild<QAction*>(QString::fromLatin1(orden.clave), Qt::FindDirectChildrenOnly);
+}
+
 void MdiPrincipal::CierraPresentacion()
 {
     if (Estado().F_PRESENTACION && presentacion_) presentacion_->close();
@@ -242,10 +251,10 @@ void MdiPrincipal::CierraPresentacion()
 
 void MdiPrincipal::ActivaGuardarEImprimir(bool guardar, bool imprimir)
 {
-    ElementoMenu(QStringLiteral("mnuPrincipalGuardar"))->setEnabled(guardar);
-    ElementoMenu(QStringLiteral("mnuPrincipalGuardarcomo"))->setEnabled(guardar);
-    ElementoMenu(QStringLiteral("mnuPrincipalImprimir"))->setEnabled(imprimir);
-    Boton(kBotonImprimir)->setEnabled(imprimir);
+    ElementoDe(kGuardar)->setEnabled(guardar);
+    ElementoDe(kGuardarComo)->setEnabled(guardar);
+    ElementoDe(kImprimir)->setEnabled(imprimir);
+    BotonDe(kImprimir)->setEnabled(imprimir);
 }
 
 void MdiPrincipal::PantallaActivada(Pantalla pantalla)
@@ -256,13 +265,13 @@ void MdiPrincipal::PantallaActivada(Pantalla pantalla)
         return;
     }
     ActivaGuardarEImprimir(true, true);
-    Boton(kBotonGuardar)->setEnabled(true);
+    BotonDe(kGuardar)->setEnabled(true);
 }
 
 void MdiPrincipal::PantallaDescargada()
 {
     ActivaGuardarEImprimir(false, false);
-    Boton(kBotonGuardar)->setEnabled(false);
+    BotonDe(kGuardar)->setEnabled(false);
 }
 
 QMdiSubWindow* MdiPrincipal::Ventana(const FilaPantalla& fila) const
@@ -360,8 +369,8 @@ void MdiPrincipal::TB_BARRA_ButtonClick(const QString& clave)
 {
     barra_->update();
     CierraPresentacion();
-    for (const BotonBarra& boton : kBotones)
-        if (clave == QLatin1String(boton.clave)) (this->*boton.orden)();
+    for (const OrdenPrincipal* orden : kBarra)
+        if (clave == QLatin1String(orden->clave)) (this->*orden->AccionDeBarra())();
 }
 
 void MdiPrincipal::DevuelveTamano()

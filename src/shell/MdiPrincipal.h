@@ -23,6 +23,7 @@ namespace texalon {
 
 class Formulario;
 class FormularioCalculo;
+struct OrdenPrincipal;
 
 class MdiPrincipal : public QMainWindow {
     Q_OBJECT
@@ -118,6 +119,9 @@ private:
     void CentraPresentacion();
     void DevuelveTamano();
     void ActivaGuardarEImprimir(bool guardar, bool imprimir);
+    // The menu item and the toolbar button of a command of the window's table.
+    QAction* ElementoDe(const OrdenPrincipal& orden) const;
+    QAction* BotonDe(const OrdenPrincipal& orden) const;
     void Nueva(Pantalla pantalla);
     void MuestraPantalla(Pantalla pantalla);
 
