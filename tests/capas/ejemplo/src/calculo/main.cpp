@@ -1,5 +1,4 @@
+// The batch command's program starts QApplication by a kept exception.
 #include "calculo/Calculo.h"
-#include "diagrams/qt/Escena.h"
-#include "diagrams/qt/Vista.h"
 #include <QApplication>
-#include <QLabel>
+#include <QString>

@@ -1,2 +1,3 @@
+// The main window, over everything but the batch command.
 #pragma once
 #include <QMainWindow>

@@ -1,4 +1,4 @@
-// A state that reaches up into the engine.
+// State reaching up into the engine.
 #pragma once
 #include <string>
 #include "state/Otro.h"

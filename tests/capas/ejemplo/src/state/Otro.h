@@ -1,1 +1,3 @@
+// State: includes nothing of the project outside itself.
 #pragma once
+#include <string>

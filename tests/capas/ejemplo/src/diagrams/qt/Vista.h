@@ -1,3 +1,4 @@
+// A view that brings the scene's widgets one header further down.
 #pragma once
 #include "diagrams/qt/Escena.h"
-#include <QGraphicsView>
+#include <QPainter>

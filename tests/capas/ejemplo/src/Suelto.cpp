@@ -1,0 +1,2 @@
+// A source outside any folder of src/.
+#include "state/Otro.h"

@@ -1,0 +1,3 @@
+#pragma once
+#include "engine/Calculos.h"
+#include "platform/Impresora.h"

@@ -1,0 +1,3 @@
+#pragma once
+#include "state/Otro.h"
+#include <vector>

@@ -1,0 +1,3 @@
+// An interface of the platform in plain C++.
+#pragma once
+#include "state/Otro.h"

@@ -1,0 +1,3 @@
+// A test double builds on the Qt implementation.
+#pragma once
+#include "platform/qt/Ventana.h"

@@ -1,0 +1,3 @@
+#include "platform/qt/Ventana.h"
+#include <QtWidgets/QLabel>
+#include "platform/dobles/Doble.h"

@@ -1,0 +1,3 @@
+#pragma once
+#include "platform/Impresora.h"
+#include <windows.h>

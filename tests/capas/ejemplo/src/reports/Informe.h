@@ -1,0 +1,3 @@
+#pragma once
+#include "diagrams/Lista.h"
+#include "platform/Impresora.h"

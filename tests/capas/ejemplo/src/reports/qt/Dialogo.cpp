@@ -1,0 +1,3 @@
+#include "reports/qt/Dialogo.h"
+#include "diagrams/qt/Lienzo.h"
+#include "screens/Pantalla.h"

@@ -1,0 +1,6 @@
+#include "screens/Pantalla.h"
+#include "diagrams/qt/Vista.h"
+#include "platform/qt/Ventana.h"
+#include "files/Ficheros.h"
+#include "calculo/Calculo.h"
+#include "platform/win/Registro.h"
