@@ -156,9 +156,9 @@ struct General {
     std::string DIRECTORIO;  // current directory after the last file dialog
 };
 
-// DIBUJO: how many screen elements of each kind exist now, 0 while none. The picture of a
-// screen counts into the drawing state's own set; a picture drawn for a file keeps a set of
-// its own, so that the state's counters go on naming what the screen shows.
+// The element counters: how many screen elements of each kind exist now, 0 while none. The
+// picture of a screen counts into the drawing state's own set; a picture drawn for a file keeps
+// a set of its own, so that the state's counters go on naming what the screen shows.
 struct ContadoresDibujo {
     Entero NLINEA = 0;
     Entero NTIT = 0;

@@ -40,7 +40,7 @@ std::optional<ClasePantalla> ClaseEnPantalla(int clase)
     return std::nullopt;
 }
 
-// The counter of DIBUJO that belongs to a kind of screen element.
+// The element counter (ContadoresDibujo) that belongs to a kind of screen element.
 template <typename Contadores>
 auto& Contador(Contadores& c, ClasePantalla clase)
 {
