@@ -22,7 +22,7 @@ scripts/qt-windows.sh
 # What the Windows build takes from the Linux one, whose tools cannot run under the cross
 # build: the guide, drawn from the help's pages, and the PNG icons, made into Windows icons.
 echo "== Guía e iconos (construcción de Linux) =="
-cmake -S . -B build -DCMAKE_BUILD_TYPE=Release -DTEXALON_WERROR=ON >/dev/null
+configura build Release -DTEXALON_WERROR=ON
 cmake --build build -j"$(nproc)" --target texalon_guia texalon_iconos
 iconos=build-windows/iconos
 mkdir -p "$iconos"
