@@ -18,19 +18,15 @@ import subprocess
 import sys
 import tempfile
 
+# The module that the checking scripts share, read without leaving a cache in the source tree.
+sys.dont_write_bytecode = True
+from comprobaciones import comprueba, fallos  # noqa: E402
+
 CABECERA = ["fichero", "tipo", "refuerzo", "capas", "resultado", "alcanza", "error", "elemento", "solicitado",
             "sin_refuerzo", "veredicto"]
 BOM = b"\xef\xbb\xbf"
 CAPAS = 5
 WINDOWS = False
-
-fallos = []
-
-
-def comprueba(condicion, mensaje):
-    if not condicion:
-        fallos.append(mensaje)
-    return condicion
 
 
 def ejecuta(programa, argumentos):

@@ -17,13 +17,9 @@ import subprocess
 import sys
 import tempfile
 
-fallos = []
-
-
-def comprueba(condicion, mensaje):
-    if not condicion:
-        fallos.append(mensaje)
-    return condicion
+# The module that the checking scripts share, read without leaving a cache in the source tree.
+sys.dont_write_bytecode = True
+from comprobaciones import comprueba, fallos  # noqa: E402
 
 
 def ejecuta(programa, argumentos):

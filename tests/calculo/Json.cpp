@@ -79,37 +79,36 @@ private:
         return valor;
     }
 
-    void Miembros(ValorJson& objeto)
+    // What stands between `abre` and `cierra`, parted by commas, each read by `lee`.
+    template <class Lector>
+    void Secuencia(char abre, char cierra, Lector lee)
     {
-        Espera('{');
-        if (Mira() == '}') {
+        Espera(abre);
+        if (Mira() == cierra) {
             ++posicion_;
             return;
         }
         for (;;) {
-            if (Mira() != '"') Falla("se esperaba un nombre");
-            std::string nombre = Cadena();
-            Espera(':');
-            objeto.miembros.emplace_back(std::move(nombre), Valor());
-            if (Mira() == '}') break;
+            lee();
+            if (Mira() == cierra) break;
             Espera(',');
         }
         ++posicion_;
     }
 
+    void Miembros(ValorJson& objeto)
+    {
+        Secuencia('{', '}', [&] {
+            if (Mira() != '"') Falla("se esperaba un nombre");
+            std::string nombre = Cadena();
+            Espera(':');
+            objeto.miembros.emplace_back(std::move(nombre), Valor());
+        });
+    }
+
     void Elementos(ValorJson& lista)
     {
-        Espera('[');
-        if (Mira() == ']') {
-            ++posicion_;
-            return;
-        }
-        for (;;) {
-            lista.lista.push_back(Valor());
-            if (Mira() == ']') break;
-            Espera(',');
-        }
-        ++posicion_;
+        Secuencia('[', ']', [&] { lista.lista.push_back(Valor()); });
     }
 
     // The grammar of a JSON number, then its value read back as a double.

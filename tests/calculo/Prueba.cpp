@@ -42,13 +42,7 @@ std::string LeeFichero(const std::filesystem::path& ruta)
 
 std::string Contenido(const std::string& fichero) { return LeeFichero(std::filesystem::path(fichero)); }
 
-DirectorioTemporal::DirectorioTemporal() : ruta_(RutaNueva()) { std::filesystem::create_directories(ruta_); }
-
-DirectorioTemporal::~DirectorioTemporal()
-{
-    std::error_code sin_excepcion;
-    std::filesystem::remove_all(ruta_, sin_excepcion);
-}
+DirectorioTemporal::DirectorioTemporal() : CarpetaTemporal(RutaNueva()) {}
 
 std::string DirectorioTemporal::Escribe(const std::string& nombre, std::string_view bytes) const
 {
@@ -58,7 +52,10 @@ std::string DirectorioTemporal::Escribe(const std::string& nombre, std::string_v
     return fichero;
 }
 
-std::string DirectorioTemporal::Fichero(const std::string& nombre) const { return (ruta_ / nombre).generic_string(); }
+std::string DirectorioTemporal::Fichero(const std::string& nombre) const
+{
+    return (Camino() / nombre).generic_string();
+}
 
 Ejecucion EjecutaCalculo(const std::vector<std::string>& argumentos, char separador,
                          const calculo::Dispositivos& dispositivos)

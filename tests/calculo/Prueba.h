@@ -3,6 +3,7 @@
 #pragma once
 
 #include "calculo/Calculo.h"
+#include "comun/CarpetaTemporal.h"
 
 #include <gtest/gtest.h>
 
@@ -24,23 +25,26 @@ inline constexpr std::string_view kFlexionT =
 inline constexpr std::string_view kConfinamiento = "1\r\n0.5\r\n0.4\r\n25\r\n1.5\r\n1.15\r\n1.4\r\n0\r\n1\r\n";
 
 // A directory of its own for one test, removed with everything in it at the end of the test.
-class DirectorioTemporal {
+class DirectorioTemporal : public CarpetaTemporal {
 public:
     DirectorioTemporal();
-    ~DirectorioTemporal();
-    DirectorioTemporal(const DirectorioTemporal&) = delete;
-    DirectorioTemporal& operator=(const DirectorioTemporal&) = delete;
 
     // The directory's full name, its folders joined by '/' on every system as the command
     // names them in its messages.
-    std::string Ruta() const { return ruta_.generic_string(); }
+    std::string Ruta() const { return Camino().generic_string(); }
     // Writes the bytes as a file of the directory and gives its full name.
     std::string Escribe(const std::string& nombre, std::string_view bytes) const;
     // The full name of a file of the directory that is not written.
     std::string Fichero(const std::string& nombre) const;
+};
 
-private:
-    std::filesystem::path ruta_;
+// The fixture of a table of cases that each run the command on one project file, written in a
+// directory of its own: the row's `fichero`, with the row's `contenido`.
+template <class Fila>
+class ConUnFichero : public ::testing::TestWithParam<Fila> {
+protected:
+    DirectorioTemporal directorio;
+    const std::string fichero = directorio.Escribe(this->GetParam().fichero, this->GetParam().contenido);
 };
 
 // What one run of the command gives.

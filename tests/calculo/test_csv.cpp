@@ -2,6 +2,8 @@
 // yellow of the grids as "sí" and "no", and the options it does not combine with.
 #include "Prueba.h"
 
+#include "comun/Tablas.h"
+
 #include "calculo/Proyecto.h"
 #include "calculo/SalidaCsv.h"
 #include "engine/Calcular.h"
@@ -46,48 +48,50 @@ std::string Fila(const std::vector<std::string_view>& campos, char separador = '
     return fila;
 }
 
-TEST(CampoCsv, SinNadaQueCitarVaTalCual)
+// A field of the table, the separator, and the field as the table writes it: one row a case.
+struct CampoCitado {
+    const char* nombre;
+    std::string_view campo;
+    char separador;
+    std::string_view escrito;
+};
+
+class CampoDeLaTabla : public ::testing::TestWithParam<CampoCitado> {};
+
+TEST_P(CampoDeLaTabla, SeEscribeAsi)
 {
-    EXPECT_EQ(CampoCsv("TEXALON L", ';'), "TEXALON L");
-    EXPECT_EQ(CampoCsv("238,5", ';'), "238,5");
-    EXPECT_EQ(CampoCsv("238.5", ','), "238.5");
-    EXPECT_EQ(CampoCsv("", ','), "");
-    // The other separator is no special character.
-    EXPECT_EQ(CampoCsv("a;b", ','), "a;b");
+    EXPECT_EQ(CampoCsv(GetParam().campo, GetParam().separador), GetParam().escrito);
 }
 
-TEST(CampoCsv, ElSeparadorVaEntreComillas)
-{
-    EXPECT_EQ(CampoCsv("238,5", ','), "\"238,5\"");
-    EXPECT_EQ(CampoCsv("viga;1.vmf", ';'), "\"viga;1.vmf\"");
-    EXPECT_EQ(CampoCsv(";", ';'), "\";\"");
-}
+// clang-format off
+const CampoCitado kCamposCitados[] = {
+    // With nothing to quote, as it is; the other separator is no special character.
+    {"TextoTalCual",                 "TEXALON L",          ';', "TEXALON L"},
+    {"ComaConPuntoYComaTalCual",     "238,5",              ';', "238,5"},
+    {"PuntoConComaTalCual",          "238.5",              ',', "238.5"},
+    {"VacioTalCual",                 "",                   ',', ""},
+    {"ElOtroSeparadorTalCual",       "a;b",                ',', "a;b"},
+    // The separator goes between quotes.
+    {"ComaEntreComillas",            "238,5",              ',', "\"238,5\""},
+    {"PuntoYComaEntreComillas",      "viga;1.vmf",         ';', "\"viga;1.vmf\""},
+    {"SoloElSeparadorEntreComillas", ";",                  ';', "\";\""},
+    // The quotes are doubled.
+    {"ComillasDobladas",             "viga \"dos\".vmf",   ';', "\"viga \"\"dos\"\".vmf\""},
+    {"UnaComillaDoblada",            "\"",                 ',', "\"\"\"\""},
+    {"ComillasYSeparador",           "a,\"b\"",            ',', "\"a,\"\"b\"\"\""},
+    // The line ends go between quotes.
+    {"SaltoDeLineaEntreComillas",    "línea 1\nlínea 2",   ';', "\"línea 1\nlínea 2\""},
+    {"RetornoEntreComillas",         "a\rb",               ',', "\"a\rb\""},
+    {"RetornoYSaltoEntreComillas",   "a\r\nb",             ',', "\"a\r\nb\""},
+    // UTF-8 passes; any other byte becomes U+FFFD.
+    {"TildeUtf8Pasa",                "sí",                 ';', "sí"},
+    {"SimbolosUtf8Pasan",            "Nº ‰ 𝜀",             ';', "Nº ‰ 𝜀"},
+    {"ByteSueltoSeSustituye",        "a\xff" "b",          ';', "a\xEF\xBF\xBD" "b"},
+    {"SecuenciaLargaSeSustituye",    "\xc0\xaf",           ';', "\xEF\xBF\xBD\xEF\xBF\xBD"},
+};
+// clang-format on
 
-TEST(CampoCsv, LasComillasSeDoblan)
-{
-    EXPECT_EQ(CampoCsv("viga \"dos\".vmf", ';'), "\"viga \"\"dos\"\".vmf\"");
-    EXPECT_EQ(CampoCsv("\"", ','), "\"\"\"\"");
-    EXPECT_EQ(CampoCsv("a,\"b\"", ','), "\"a,\"\"b\"\"\"");
-}
-
-TEST(CampoCsv, LosFinesDeLineaVanEntreComillas)
-{
-    EXPECT_EQ(CampoCsv("línea 1\nlínea 2", ';'), "\"línea 1\nlínea 2\"");
-    EXPECT_EQ(CampoCsv("a\rb", ','), "\"a\rb\"");
-    EXPECT_EQ(CampoCsv("a\r\nb", ','), "\"a\r\nb\"");
-}
-
-TEST(CampoCsv, ElUtf8PasaYLosDemasBytesSeSustituyen)
-{
-    EXPECT_EQ(CampoCsv("sí", ';'), "sí");
-    EXPECT_EQ(CampoCsv("Nº ‰ 𝜀", ';'), "Nº ‰ 𝜀");
-    EXPECT_EQ(CampoCsv("a\xff"
-                       "b",
-                       ';'),
-              "a\xEF\xBF\xBD"
-              "b");
-    EXPECT_EQ(CampoCsv("\xc0\xaf", ';'), "\xEF\xBF\xBD\xEF\xBF\xBD");
-}
+INSTANTIATE_TEST_SUITE_P(CampoCsv, CampoDeLaTabla, ::testing::ValuesIn(kCamposCitados), NombreDeFila());
 
 TEST(CabeceraCsv, SeparadorSegunElDecimal)
 {

@@ -1,6 +1,8 @@
 // Files that cannot be calculated: what the command says, and that it goes on with the next.
 #include "Prueba.h"
 
+#include "comun/Tablas.h"
+
 #include "engine/Calcular.h"
 
 #include <gtest/gtest.h>
@@ -23,47 +25,84 @@ std::string ConLinea(std::size_t numero, std::string_view valor)
     return texto;
 }
 
-TEST(ErroresCalculo, UnFicheroRechazadoSeDiceYTerminaConUno)
+// A run that fails: status 1, nothing on the standard output and these errors.
+void EsperaFalloSinSalida(const Ejecucion& ejecucion, const std::string& errores)
 {
-    DirectorioTemporal directorio;
-    const std::string fichero = directorio.Escribe("viga.vmf", ConLinea(1, "3"));
-    const Ejecucion ejecucion = EjecutaCalculo({fichero});
     EXPECT_EQ(ejecucion.estado, 1);
     EXPECT_EQ(ejecucion.salida, "");
-    EXPECT_EQ(ejecucion.errores, fichero + ": " + std::string(kDatosIncorrectos) + "\n");
+    EXPECT_EQ(ejecucion.errores, errores);
 }
 
-TEST(ErroresCalculo, UnFicheroRechazadoEnJsonLlevaElErrorYNingunResultado)
+// A run with --json that fails: status 1 and this object on the standard output.
+void EsperaFalloEnJson(const Ejecucion& ejecucion, const std::string& salida)
 {
-    DirectorioTemporal directorio;
-    const std::string fichero = directorio.Escribe("viga.vmf", ConLinea(1, "3"));
-    const Ejecucion ejecucion = EjecutaCalculo({"--json", fichero});
     EXPECT_EQ(ejecucion.estado, 1);
-    // Section kind 3 is no kind at all: the object has no "tipo".
-    EXPECT_EQ(ejecucion.salida,
-              "{\"fichero\":\"" + fichero + "\",\"error\":\"" + std::string(kDatosIncorrectos) + "\"}\n");
-    EXPECT_TRUE(Contiene(ejecucion.errores, kDatosIncorrectos));
+    EXPECT_EQ(ejecucion.salida, salida);
 }
+
+// The object of a file that failed: its name, its kind where it was read, and the error.
+std::string ObjetoDeError(const std::string& fichero, const std::string& tipo, const std::string& error)
+{
+    return "{\"fichero\":\"" + fichero + "\"" + (tipo.empty() ? "" : ",\"tipo\":\"" + tipo + "\"") +
+           ",\"error\":\"" + error + "\"}\n";
+}
+
+// A rectangular beam file with one line changed that the command refuses, in text and in JSON.
+struct LineaQueFalla {
+    const char* nombre;
+    std::size_t linea;
+    std::string_view valor;
+    std::string_view mensaje;
+    const char* tipo;  // the kind of the JSON object: "" where the file gave none
+    bool tambienEnLosErrores;  // whether the JSON run says it on the standard error too
+};
+
+class VigaQueFalla : public ::testing::TestWithParam<LineaQueFalla> {
+protected:
+    DirectorioTemporal directorio;
+    const std::string fichero = directorio.Escribe("viga.vmf", ConLinea(GetParam().linea, GetParam().valor));
+};
+
+TEST_P(VigaQueFalla, SeDiceEnLosErroresYTerminaConUno)
+{
+    EsperaFalloSinSalida(EjecutaCalculo({fichero}), fichero + ": " + std::string(GetParam().mensaje) + "\n");
+}
+
+TEST_P(VigaQueFalla, EnJsonLlevaElErrorYNingunResultado)
+{
+    const Ejecucion ejecucion = EjecutaCalculo({"--json", fichero});
+    EsperaFalloEnJson(ejecucion, ObjetoDeError(fichero, GetParam().tipo, std::string(GetParam().mensaje)));
+    if (GetParam().tambienEnLosErrores) {
+        EXPECT_TRUE(Contiene(ejecucion.errores, GetParam().mensaje));
+    }
+}
+
+// clang-format off
+const LineaQueFalla kLineasQueFallan[] = {
+    // Section kind 3 is no kind at all: the object has no "tipo".
+    {"Rechazado", 1, "3", kDatosIncorrectos, "", true},
+    // MCP is line 13 of a rectangular file.
+    {"MomentoInicialGrandeSuperaLaPredeformacion", 13, "1000", kMensajePredeformacion, "rectangular", false},
+};
+// clang-format on
+
+INSTANTIATE_TEST_SUITE_P(ErroresCalculo, VigaQueFalla, ::testing::ValuesIn(kLineasQueFallan), NombreDeFila());
 
 TEST(ErroresCalculo, UnFicheroQueNoExisteDaDosMensajes)
 {
     DirectorioTemporal directorio;
     const std::string fichero = directorio.Fichero("no_esta.vmf");
-    const Ejecucion ejecucion = EjecutaCalculo({fichero});
-    EXPECT_EQ(ejecucion.estado, 1);
-    EXPECT_EQ(ejecucion.salida, "");
-    EXPECT_EQ(ejecucion.errores, fichero + ": " + std::string(kNoEncontrado) + "\n" + fichero + ": " +
-                                     std::string(kDatosIncorrectos) + "\n");
+    EsperaFalloSinSalida(EjecutaCalculo({fichero}), fichero + ": " + std::string(kNoEncontrado) + "\n" + fichero +
+                                                        ": " + std::string(kDatosIncorrectos) + "\n");
 }
 
 TEST(ErroresCalculo, UnFicheroQueNoExisteEnJsonUneLosMensajes)
 {
     DirectorioTemporal directorio;
     const std::string fichero = directorio.Fichero("no_esta.vmc");
-    const Ejecucion ejecucion = EjecutaCalculo({"--json", fichero});
-    EXPECT_EQ(ejecucion.estado, 1);
-    EXPECT_EQ(ejecucion.salida, "{\"fichero\":\"" + fichero + "\",\"tipo\":\"confinamiento\",\"error\":\"" +
-                                    std::string(kNoEncontrado) + "\\n" + std::string(kDatosIncorrectos) + "\"}\n");
+    EsperaFalloEnJson(
+        EjecutaCalculo({"--json", fichero}),
+        ObjetoDeError(fichero, "confinamiento", std::string(kNoEncontrado) + "\\n" + std::string(kDatosIncorrectos)));
 }
 
 TEST(ErroresCalculo, UnFicheroCortoDiceElFinalAntesQueLosDatos)
@@ -75,27 +114,6 @@ TEST(ErroresCalculo, UnFicheroCortoDiceElFinalAntesQueLosDatos)
     EXPECT_EQ(Lineas(ejecucion.errores),
               (std::vector<std::string>{fichero + ": Error 62: La entrada sobrepasa el final del archivo",
                                         fichero + ": " + std::string(kDatosIncorrectos)}));
-}
-
-TEST(ErroresCalculo, UnMomentoInicialGrandeSuperaLaPredeformacion)
-{
-    DirectorioTemporal directorio;
-    // MCP is line 13 of a rectangular file.
-    const std::string fichero = directorio.Escribe("viga.vmf", ConLinea(13, "1000"));
-    const Ejecucion ejecucion = EjecutaCalculo({fichero});
-    EXPECT_EQ(ejecucion.estado, 1);
-    EXPECT_EQ(ejecucion.salida, "");
-    EXPECT_EQ(ejecucion.errores, fichero + ": " + std::string(kMensajePredeformacion) + "\n");
-}
-
-TEST(ErroresCalculo, LaPredeformacionEnJsonConservaElTipo)
-{
-    DirectorioTemporal directorio;
-    const std::string fichero = directorio.Escribe("viga.vmf", ConLinea(13, "1000"));
-    const Ejecucion ejecucion = EjecutaCalculo({"--json", fichero});
-    EXPECT_EQ(ejecucion.estado, 1);
-    EXPECT_EQ(ejecucion.salida, "{\"fichero\":\"" + fichero + "\",\"tipo\":\"rectangular\",\"error\":\"" +
-                                    std::string(kMensajePredeformacion) + "\"}\n");
 }
 
 TEST(ErroresCalculo, UnAxilGrandeSuperaLaPredeformacionDelPilar)
@@ -112,10 +130,8 @@ TEST(ErroresCalculo, OtraExtensionNoEsUnProyecto)
 {
     DirectorioTemporal directorio;
     const std::string fichero = directorio.Escribe("notas.txt", kFlexionRectangular);
-    const Ejecucion ejecucion = EjecutaCalculo({fichero});
-    EXPECT_EQ(ejecucion.estado, 1);
-    EXPECT_EQ(ejecucion.salida, "");
-    EXPECT_EQ(ejecucion.errores, fichero + ": no es un fichero de proyecto TEXALON (.vmf o .vmc).\n");
+    EsperaFalloSinSalida(EjecutaCalculo({fichero}),
+                         fichero + ": no es un fichero de proyecto TEXALON (.vmf o .vmc).\n");
 }
 
 TEST(ErroresCalculo, OtraExtensionEnJsonNoTieneTipo)
@@ -226,10 +242,7 @@ TEST_P(ValoresQueLosCamposRechazan, ElFicheroFallaConElMensajeDelCampo)
     const ValorQueElCampoRechaza& caso = GetParam();
     DirectorioTemporal directorio;
     const std::string fichero = directorio.Escribe(caso.fichero, caso.bytes);
-    const Ejecucion ejecucion = EjecutaCalculo({fichero});
-    EXPECT_EQ(ejecucion.estado, 1);
-    EXPECT_EQ(ejecucion.salida, "");
-    EXPECT_EQ(ejecucion.errores, fichero + ": " + caso.mensaje + "\n");
+    EsperaFalloSinSalida(EjecutaCalculo({fichero}), fichero + ": " + caso.mensaje + "\n");
 }
 
 // Rectangular: ANCHO CANTO RECUB ASI ASS FCK FYK GC GS GR ANCHOR MCP MD; T: ANCHO CANTO

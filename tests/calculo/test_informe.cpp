@@ -3,6 +3,8 @@
 // with Qt, which writes the PDF, is the program's and is run by the command's own tests.
 #include "Prueba.h"
 
+#include "comun/Tablas.h"
+
 #include "calculo/Calculo.h"
 #include "engine/Calcular.h"
 #include "engine/Caracteristicas.h"
@@ -66,15 +68,26 @@ int Cuenta(const ImpresoraDoble& impresora, const std::string& nombre)
                                           [&nombre](const Operacion& op) { return op.nombre == nombre; }));
 }
 
+// A table of two members written as the file t.csv: `primero`, a beam under 250 mkN, then P-1.
+std::string TablaDeDosElementos(const DirectorioTemporal& directorio, const std::string& primero)
+{
+    return directorio.Escribe("t.csv", "elemento;tipo;ANCHO;CANTO;MD\r\n" + primero +
+                                           ";rectangular;0,4;0,6;250\r\nP-1;rectangular;0,4;0,6;0\r\n");
+}
+
+// The command on that table with --informe to `destino`, which must end well.
+void InformaDeLaTabla(const std::string& tabla, const std::string& destino, ImpresorasDePrueba& impresoras)
+{
+    const Ejecucion ejecucion = EjecutaCalculo({"--tabla", "--informe", destino, tabla}, ',', impresoras.Dispositivos());
+    EXPECT_EQ(ejecucion.estado, 0) << ejecucion.errores;
+}
+
 TEST(InformeCalculo, CadaElementoDeUnaTablaConSuNombre)
 {
     DirectorioTemporal directorio;
-    const std::string tabla = directorio.Escribe(
-        "t.csv", "elemento;tipo;ANCHO;CANTO;MD\r\nViga 1/2;rectangular;0,4;0,6;250\r\nP-1;rectangular;0,4;0,6;0\r\n");
     const std::string carpeta = directorio.Fichero("informes");
     ImpresorasDePrueba impresoras;
-    const Ejecucion ejecucion = EjecutaCalculo({"--tabla", "--informe", carpeta, tabla}, ',', impresoras.Dispositivos());
-    EXPECT_EQ(ejecucion.estado, 0) << ejecucion.errores;
+    InformaDeLaTabla(TablaDeDosElementos(directorio, "Viga 1/2"), carpeta, impresoras);
     EXPECT_EQ(impresoras.ficheros, (std::vector<std::string>{carpeta + "/Viga 1_2.pdf", carpeta + "/P-1.pdf"}));
     ASSERT_EQ(impresoras.impresoras.size(), 2u);
     EXPECT_EQ(Cuenta(impresoras.impresoras[0], "EndDoc"), 1);
@@ -83,12 +96,9 @@ TEST(InformeCalculo, CadaElementoDeUnaTablaConSuNombre)
 TEST(InformeCalculo, ElInformeConjuntoEsUnSoloDocumento)
 {
     DirectorioTemporal directorio;
-    const std::string tabla = directorio.Escribe(
-        "t.csv", "elemento;tipo;ANCHO;CANTO;MD\r\nV-1;rectangular;0,4;0,6;250\r\nP-1;rectangular;0,4;0,6;0\r\n");
     const std::string destino = directorio.Fichero("edificio.PDF");
     ImpresorasDePrueba impresoras;
-    const Ejecucion ejecucion = EjecutaCalculo({"--tabla", "--informe", destino, tabla}, ',', impresoras.Dispositivos());
-    EXPECT_EQ(ejecucion.estado, 0) << ejecucion.errores;
+    InformaDeLaTabla(TablaDeDosElementos(directorio, "V-1"), destino, impresoras);
     EXPECT_EQ(impresoras.ficheros, std::vector<std::string>{destino});
     ASSERT_EQ(impresoras.impresoras.size(), 1u);
     const ImpresoraDoble& impresora = impresoras.impresoras[0];
@@ -103,16 +113,16 @@ TEST(InformeCalculo, ElInformeConjuntoEsUnSoloDocumento)
 TEST(InformeCalculo, CadaFicheroEnLaCarpetaConSuNombre)
 {
     DirectorioTemporal directorio;
-    const std::string viga = directorio.Escribe("viga.vmf", kFlexionRectangularMd250);
-    const std::string pilar = directorio.Escribe("pilar.VMC", kConfinamiento);
     const std::string carpeta = directorio.Fichero("informes");
     ImpresorasDePrueba impresoras;
-    const Ejecucion ejecucion = EjecutaCalculo({"--informe", carpeta, viga, pilar}, ',', impresoras.Dispositivos());
+    // A beam and a column, the column's extension in capitals.
+    const Ejecucion ejecucion =
+        EjecutaCalculo({"--informe", carpeta, directorio.Escribe("viga.vmf", kFlexionRectangularMd250),
+                        directorio.Escribe("pilar.VMC", kConfinamiento)},
+                       ',', impresoras.Dispositivos());
     EXPECT_EQ(ejecucion.estado, 0);
     EXPECT_EQ(ejecucion.errores, "");
-    ASSERT_EQ(impresoras.ficheros.size(), 2u);
-    EXPECT_EQ(impresoras.ficheros[0], carpeta + "/viga.pdf");
-    EXPECT_EQ(impresoras.ficheros[1], carpeta + "/pilar.pdf");
+    EXPECT_EQ(impresoras.ficheros, (std::vector<std::string>{carpeta + "/viga.pdf", carpeta + "/pilar.pdf"}));
     // The folder is made when it is missing.
     EXPECT_TRUE(std::filesystem::is_directory(carpeta));
     ASSERT_EQ(impresoras.impresoras.size(), 2u);
@@ -147,27 +157,40 @@ TEST(InformeCalculo, EsElInformeDeImprimirParaLaCeldaElegida)
     EXPECT_TRUE(Imprimio(impresoras.impresoras[0], "Refuerzo tipo TEXALON H - Núm. capas: 4"));
 }
 
-TEST(InformeCalculo, LaSeccionEnTTieneSuInforme)
+// One project file whose report is the one printed: a text it must print, and how many pages
+// follow the first where that counts.
+struct InformeDeUnFichero {
+    const char* nombre;
+    const char* fichero;
+    std::string_view contenido;
+    const char* texto;
+    int paginasNuevas;  // -1: not counted
+};
+
+class UnInforme : public ConUnFichero<InformeDeUnFichero> {};
+
+TEST_P(UnInforme, ImprimeSuTexto)
 {
-    DirectorioTemporal directorio;
-    const std::string vigaT = directorio.Escribe("viga_t.vmf", kFlexionT);
+    const InformeDeUnFichero& caso = GetParam();
     ImpresorasDePrueba impresoras;
-    EXPECT_EQ(EjecutaCalculo({"--informe", directorio.Ruta(), vigaT}, ',', impresoras.Dispositivos()).estado, 0);
+    EXPECT_EQ(EjecutaCalculo({"--informe", directorio.Ruta(), fichero}, ',', impresoras.Dispositivos()).estado, 0);
     ASSERT_EQ(impresoras.impresoras.size(), 1u);
-    EXPECT_TRUE(Imprimio(impresoras.impresoras[0], "REFUERZO A FLEXION EN SECCIONES EN T"));
+    EXPECT_TRUE(Imprimio(impresoras.impresoras[0], caso.texto));
+    if (caso.paginasNuevas >= 0) {
+        EXPECT_EQ(Cuenta(impresoras.impresoras[0], "NewPage"), caso.paginasNuevas);
+    }
 }
 
-TEST(InformeCalculo, SinRefuerzoNecesarioUnaPaginaConLaFrase)
-{
+// clang-format off
+const InformeDeUnFichero kInformesDeUnFichero[] = {
+    {"LaSeccionEnTTieneSuInforme", "viga_t.vmf", kFlexionT, "REFUERZO A FLEXION EN SECCIONES EN T", -1},
     // MD 0 lies below the unreinforced moment: the report of the verdict, one page.
-    DirectorioTemporal directorio;
-    const std::string viga = directorio.Escribe("viga.vmf", kFlexionRectangular);
-    ImpresorasDePrueba impresoras;
-    EXPECT_EQ(EjecutaCalculo({"--informe", directorio.Ruta(), viga}, ',', impresoras.Dispositivos()).estado, 0);
-    ASSERT_EQ(impresoras.impresoras.size(), 1u);
-    EXPECT_TRUE(Imprimio(impresoras.impresoras[0], " NO ES NECESARIO REFORZAR LA SECCION "));
-    EXPECT_EQ(Cuenta(impresoras.impresoras[0], "NewPage"), 0);
-}
+    {"SinRefuerzoNecesarioUnaPaginaConLaFrase", "viga.vmf", kFlexionRectangular,
+     " NO ES NECESARIO REFORZAR LA SECCION ", 0},
+};
+// clang-format on
+
+INSTANTIATE_TEST_SUITE_P(InformeCalculo, UnInforme, ::testing::ValuesIn(kInformesDeUnFichero), NombreDeFila());
 
 TEST(InformeCalculo, UnaCeldaSinResultadoDaElMensajeDelInformeYNadaImpreso)
 {

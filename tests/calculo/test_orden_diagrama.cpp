@@ -2,6 +2,8 @@
 // their usage errors, and the help that tells them.
 #include "Prueba.h"
 
+#include "comun/Tablas.h"
+
 #include "calculo/Calculo.h"
 
 #include <gtest/gtest.h>
@@ -23,12 +25,44 @@ void EsperaErrorDeUso(const std::vector<std::string>& argumentos, const std::str
     EXPECT_EQ(ejecucion.errores, ErrorDeUso(error));
 }
 
-TEST(OrdenDiagrama, DiagramaDesconocido)
+// The message of a value of --tipo or --capas that is no whole number from 1 to `maximo`.
+std::string NoEsEnteroDeUnoA(const std::string& valor, const std::string& opcion, int maximo)
 {
-    EsperaErrorDeUso({"--diagrama", "tensiones", "viga.vmf"},
-                     "diagrama «tensiones» no reconocido: los diagramas son tension, confinamiento, area, capas, "
-                     "pivotes y seccion.");
+    return "el valor «" + valor + "» de " + opcion + " no es un número entero de 1 a " + std::to_string(maximo) + ".";
 }
+
+const std::string kDiagramasQueHay = "los diagramas son tension, confinamiento, area, capas, pivotes y seccion.";
+
+// Options that the command does not take, and the usage error that it gives: one row a case.
+struct UsoIncorrecto {
+    const char* nombre;
+    std::vector<std::string> argumentos;
+    std::string error;
+};
+
+class UsoDelDiagrama : public ::testing::TestWithParam<UsoIncorrecto> {};
+
+TEST_P(UsoDelDiagrama, DaSuErrorDeUso) { EsperaErrorDeUso(GetParam().argumentos, GetParam().error); }
+
+// clang-format off
+const UsoIncorrecto kUsosIncorrectos[] = {
+    {"DiagramaDesconocido", {"--diagrama", "tensiones", "viga.vmf"},
+     "diagrama «tensiones» no reconocido: " + kDiagramasQueHay},
+    {"ElValorSeTomaAunqueEmpieceConGuion", {"--diagrama", "--json", "viga.vmf"},
+     "diagrama «--json» no reconocido: " + kDiagramasQueHay},
+    {"UnaCarpetaVaciaNoEsCarpeta", {"--diagrama", "capas", "--svg", "", "viga.vmf"},
+     "falta el valor de la opción «--svg»."},
+    {"SvgSinDiagramaEsErrorDeUso", {"--svg", "salida", "viga.vmf"},
+     "la opción «--svg» necesita «--diagrama NOMBRE»."},
+    // Without a file, that is said first.
+    {"SinFicheroConSvg", {"--svg", "salida"}, "falta el nombre de algún fichero."},
+    {"SinFicheroConDiagrama", {"--diagrama", "capas"}, "falta el nombre de algún fichero."},
+    {"ElPrimerErrorEsElQueSeDice", {"--tipo", "9", "--diagrama", "nada", "viga.vmf"},
+     NoEsEnteroDeUnoA("9", "--tipo", 3)},
+};
+// clang-format on
+
+INSTANTIATE_TEST_SUITE_P(OrdenDiagrama, UsoDelDiagrama, ::testing::ValuesIn(kUsosIncorrectos), NombreDeFila());
 
 TEST(OrdenDiagrama, ElNombreNoLlevaTildeNiMayusculas)
 {
@@ -36,32 +70,23 @@ TEST(OrdenDiagrama, ElNombreNoLlevaTildeNiMayusculas)
         EXPECT_EQ(EjecutaCalculo({"--diagrama", nombre, "viga.vmf"}).estado, 2) << nombre;
 }
 
-TEST(OrdenDiagrama, ElValorSeTomaAunqueEmpieceConGuion)
-{
-    EsperaErrorDeUso({"--diagrama", "--json", "viga.vmf"},
-                     "diagrama «--json» no reconocido: los diagramas son tension, confinamiento, area, capas, "
-                     "pivotes y seccion.");
-}
-
 TEST(OrdenDiagrama, TipoFueraDeIntervalo)
 {
     for (const std::string valor : {"0", "4", "-1", "10"})
-        EsperaErrorDeUso({"--diagrama", "tension", "--tipo", valor, "viga.vmf"},
-                         "el valor «" + valor + "» de --tipo no es un número entero de 1 a 3.");
+        EsperaErrorDeUso({"--diagrama", "tension", "--tipo", valor, "viga.vmf"}, NoEsEnteroDeUnoA(valor, "--tipo", 3));
 }
 
 TEST(OrdenDiagrama, TipoQueNoEsUnNumero)
 {
     for (const std::string valor : {"dos", "1.5", "1,0", "+1", " 1", "1 ", "", "99999999999999999999"})
-        EsperaErrorDeUso({"--diagrama", "tension", "--tipo", valor, "viga.vmf"},
-                         "el valor «" + valor + "» de --tipo no es un número entero de 1 a 3.");
+        EsperaErrorDeUso({"--diagrama", "tension", "--tipo", valor, "viga.vmf"}, NoEsEnteroDeUnoA(valor, "--tipo", 3));
 }
 
 TEST(OrdenDiagrama, CapasFueraDeIntervaloONoNumericas)
 {
     for (const std::string valor : {"0", "6", "tres", "2.0"})
         EsperaErrorDeUso({"--diagrama", "pivotes", "--capas", valor, "viga.vmf"},
-                         "el valor «" + valor + "» de --capas no es un número entero de 1 a 5.");
+                         NoEsEnteroDeUnoA(valor, "--capas", 5));
 }
 
 TEST(OrdenDiagrama, LosExtremosSeAceptan)
@@ -77,28 +102,6 @@ TEST(OrdenDiagrama, FaltaElValor)
 {
     for (const std::string opcion : {"--diagrama", "--tipo", "--capas", "--svg"})
         EsperaErrorDeUso({"viga.vmf", opcion}, "falta el valor de la opción «" + opcion + "».");
-}
-
-TEST(OrdenDiagrama, UnaCarpetaVaciaNoEsCarpeta)
-{
-    EsperaErrorDeUso({"--diagrama", "capas", "--svg", "", "viga.vmf"}, "falta el valor de la opción «--svg».");
-}
-
-TEST(OrdenDiagrama, SvgSinDiagramaEsErrorDeUso)
-{
-    EsperaErrorDeUso({"--svg", "salida", "viga.vmf"}, "la opción «--svg» necesita «--diagrama NOMBRE».");
-}
-
-TEST(OrdenDiagrama, SinFicheroSeDiceEsoPrimero)
-{
-    EsperaErrorDeUso({"--svg", "salida"}, "falta el nombre de algún fichero.");
-    EsperaErrorDeUso({"--diagrama", "capas"}, "falta el nombre de algún fichero.");
-}
-
-TEST(OrdenDiagrama, ElPrimerErrorEsElQueSeDice)
-{
-    EsperaErrorDeUso({"--tipo", "9", "--diagrama", "nada", "viga.vmf"},
-                     "el valor «9» de --tipo no es un número entero de 1 a 3.");
 }
 
 TEST(OrdenDiagrama, TrasDosGuionesLasOpcionesSonNombres)
@@ -138,22 +141,25 @@ TEST(OrdenDiagrama, LaAyudaNombraTodosLosDiagramas)
 TEST(OrdenDiagrama, LaAyudaDiceLaListaElSvgYLosErrores)
 {
     const std::string ayuda = calculo::TextoAyuda();
-    EXPECT_TRUE(Contiene(ayuda, "«lista»"));
-    EXPECT_TRUE(Contiene(ayuda, "DiagramaMomentoCapasT"));
-    EXPECT_TRUE(Contiene(ayuda, "«NLISTA», «LISTA»"));
-    EXPECT_TRUE(Contiene(ayuda, "«TEXTOS» llevan el separador decimal del sistema"));
-    EXPECT_TRUE(Contiene(ayuda, "de 1 a 3\n              (1 TEXALON L, 2 TEXALON H, 3 TEXALON X); 1 si no se da."));
-    EXPECT_TRUE(Contiene(ayuda, "de 1 a 5; 1 si no se\n              da."));
-    EXPECT_TRUE(Contiene(ayuda, "CARPETA/<nombre del fichero sin extensión>-NOMBRE.svg"));
-    EXPECT_TRUE(Contiene(ayuda, "no necesita pantalla gráfica"));
-    EXPECT_TRUE(Contiene(ayuda, "predeformación superior al 2 por mil"));
-    EXPECT_TRUE(Contiene(ayuda, "(area en un pilar, por ejemplo)"));
-    EXPECT_TRUE(Contiene(ayuda, "resultado («---»)"));
-    EXPECT_TRUE(Contiene(ayuda, ", --svg sin --diagrama o --csv con otra opción."));
-    EXPECT_TRUE(Contiene(ayuda, "tension y seccion no necesitan el cálculo: se dibujan aunque este\n"
-                                "              falle, y el fichero falla igualmente con el mensaje del cálculo."));
-    EXPECT_TRUE(Contiene(ayuda, "«veredicto» (el texto del veredicto de la pantalla, o null si no\n"
-                                "              muestra ninguno)"));
+    for (std::string_view texto : {
+             "«lista»",
+             "DiagramaMomentoCapasT",
+             "«NLISTA», «LISTA»",
+             "«TEXTOS» llevan el separador decimal del sistema",
+             "de 1 a 3\n              (1 TEXALON L, 2 TEXALON H, 3 TEXALON X); 1 si no se da.",
+             "de 1 a 5; 1 si no se\n              da.",
+             "CARPETA/<nombre del fichero sin extensión>-NOMBRE.svg",
+             "no necesita pantalla gráfica",
+             "predeformación superior al 2 por mil",
+             "(area en un pilar, por ejemplo)",
+             "resultado («---»)",
+             ", --svg sin --diagrama o --csv con otra opción.",
+             "tension y seccion no necesitan el cálculo: se dibujan aunque este\n"
+             "              falle, y el fichero falla igualmente con el mensaje del cálculo.",
+             "«veredicto» (el texto del veredicto de la pantalla, o null si no\n"
+             "              muestra ninguno)",
+         })
+        EXPECT_TRUE(Contiene(ayuda, texto));
 }
 
 }  // namespace

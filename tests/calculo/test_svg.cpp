@@ -4,6 +4,8 @@
 #include "Json.h"
 #include "Prueba.h"
 
+#include "comun/Tablas.h"
+
 #include "calculo/Calculo.h"
 
 #include <gtest/gtest.h>
@@ -91,41 +93,39 @@ TEST(SvgCalculo, LasSeccionesConservanSusProporciones)
     EXPECT_EQ(std::filesystem::path(escritor.llamadas[2].fichero).filename(), "pilar-seccion.svg");
 }
 
-TEST(SvgCalculo, ElDiagramaDeTensionVaEnElDibujoDeCaracteristicas)
+// One diagram of one project file, and the picture that draws it: the characteristics', the
+// confinement's or the flexure's, none of them isotropic.
+struct DiagramaEnSuDibujo {
+    const char* nombre;
+    const char* fichero;
+    std::string_view contenido;
+    const char* diagrama;
+    const char* dibujo;
+};
+
+class UnDiagrama : public ConUnFichero<DiagramaEnSuDibujo> {};
+
+TEST_P(UnDiagrama, VaEnSuDibujo)
 {
-    DirectorioTemporal directorio;
-    const std::string pilar = directorio.Escribe("pilar.vmc", kConfinamiento);
+    const DiagramaEnSuDibujo& caso = GetParam();
     EscritorDePrueba escritor;
-    const Ejecucion ejecucion =
-        EjecutaCalculo({"--diagrama", "tension", "--svg", directorio.Ruta(), pilar}, ',', escritor.Dispositivos());
+    const Ejecucion ejecucion = EjecutaCalculo({"--diagrama", caso.diagrama, "--svg", directorio.Ruta(), fichero}, ',',
+                                               escritor.Dispositivos());
     EXPECT_EQ(ejecucion.estado, 0) << ejecucion.errores;
     ASSERT_EQ(escritor.llamadas.size(), 1U);
-    EXPECT_EQ(escritor.llamadas[0].dibujo, "PIC_CARAC");
+    EXPECT_EQ(escritor.llamadas[0].dibujo, caso.dibujo);
     EXPECT_EQ(escritor.llamadas[0].isotropico, 0);
 }
 
-TEST(SvgCalculo, ConfinamientoYPivotesConSuDibujo)
-{
-    DirectorioTemporal directorio;
-    const std::string pilar = directorio.Escribe("pilar.vmc", kConfinamiento);
-    const std::string viga = directorio.Escribe("viga.vmf", kFlexionRectangular);
-    EscritorDePrueba confina;
-    EXPECT_EQ(EjecutaCalculo({"--diagrama", "confinamiento", "--svg", directorio.Ruta(), pilar}, ',',
-                             confina.Dispositivos())
-                  .estado,
-              0);
-    ASSERT_EQ(confina.llamadas.size(), 1U);
-    EXPECT_EQ(confina.llamadas[0].dibujo, "PIC_CONFINA");
-    EXPECT_EQ(confina.llamadas[0].isotropico, 0);
-    EscritorDePrueba pivotes;
-    EXPECT_EQ(
-        EjecutaCalculo({"--diagrama", "pivotes", "--svg", directorio.Ruta(), viga}, ',', pivotes.Dispositivos())
-            .estado,
-        0);
-    ASSERT_EQ(pivotes.llamadas.size(), 1U);
-    EXPECT_EQ(pivotes.llamadas[0].dibujo, "PIC_FLEXION");
-    EXPECT_EQ(pivotes.llamadas[0].isotropico, 0);
-}
+// clang-format off
+const DiagramaEnSuDibujo kDiagramasEnSuDibujo[] = {
+    {"TensionEnElDeCaracteristicas", "pilar.vmc", kConfinamiento,      "tension",       "PIC_CARAC"},
+    {"ConfinamientoEnElSuyo",        "pilar.vmc", kConfinamiento,      "confinamiento", "PIC_CONFINA"},
+    {"PivotesEnElDeFlexion",         "viga.vmf",  kFlexionRectangular, "pivotes",       "PIC_FLEXION"},
+};
+// clang-format on
+
+INSTANTIATE_TEST_SUITE_P(SvgCalculo, UnDiagrama, ::testing::ValuesIn(kDiagramasEnSuDibujo), NombreDeFila());
 
 TEST(SvgCalculo, ElNombreEsElDelFicheroSinSuExtension)
 {

@@ -2,6 +2,8 @@
 // encodings, and the cells that are no numbers.
 #include "calculo/Tabla.h"
 
+#include "comun/Tablas.h"
+
 #include <gtest/gtest.h>
 
 #include <sstream>
@@ -26,25 +28,37 @@ std::vector<Registro> Registros(const std::string& texto, std::string* error = n
     return registros;
 }
 
-TEST(LectorTabla, PuntoYComaConComaDecimal)
+// A table of a header and one member with the separator that it is guessed to have, each with its
+// decimal mark: the header and the member read field by field.
+struct TablaConSeparador {
+    const char* nombre;
+    const char* texto;
+    char separador;
+    const char* canto;
+};
+
+class SeparadorDeLaTabla : public ::testing::TestWithParam<TablaConSeparador> {};
+
+TEST_P(SeparadorDeLaTabla, SeAdivinaYPartePorElLosCampos)
 {
     char separador = 0;
-    const auto registros = Registros("elemento;tipo;CANTO\r\nV-1;rectangular;0,6\r\n", nullptr, &separador);
-    EXPECT_EQ(separador, ';');
+    const auto registros = Registros(GetParam().texto, nullptr, &separador);
+    EXPECT_EQ(separador, GetParam().separador);
     ASSERT_EQ(registros.size(), 2U);
     EXPECT_EQ(registros[0].campos, (Campos{"elemento", "tipo", "CANTO"}));
-    EXPECT_EQ(registros[1].campos, (Campos{"V-1", "rectangular", "0,6"}));
+    EXPECT_EQ(registros[1].campos, (Campos{"V-1", "rectangular", GetParam().canto}));
     EXPECT_EQ(registros[1].linea, 2U);
 }
 
-TEST(LectorTabla, ComaConPuntoDecimal)
-{
-    char separador = 0;
-    const auto registros = Registros("elemento,tipo,CANTO\nV-1,rectangular,0.6\n", nullptr, &separador);
-    EXPECT_EQ(separador, ',');
-    ASSERT_EQ(registros.size(), 2U);
-    EXPECT_EQ(registros[1].campos, (Campos{"V-1", "rectangular", "0.6"}));
-}
+// clang-format off
+const TablaConSeparador kTablasConSeparador[] = {
+    {"PuntoYComaConComaDecimal", "elemento;tipo;CANTO\r\nV-1;rectangular;0,6\r\n", ';', "0,6"},
+    {"ComaConPuntoDecimal",      "elemento,tipo,CANTO\nV-1,rectangular,0.6\n",       ',', "0.6"},
+};
+// clang-format on
+
+INSTANTIATE_TEST_SUITE_P(LectorTabla, SeparadorDeLaTabla, ::testing::ValuesIn(kTablasConSeparador),
+                         prueba::NombreDeFila());
 
 TEST(LectorTabla, TabuladorConCualquierDecimal)
 {

@@ -9,6 +9,7 @@
 
 #include <cmath>
 #include <string>
+#include <tuple>
 #include <vector>
 
 namespace texalon::prueba {
@@ -16,10 +17,8 @@ namespace texalon::prueba {
 // One element of the list, field by field.
 struct Elemento {
     int clase = 0;
-    double x1 = 0.0;
-    double y1 = 0.0;
-    double x2 = 0.0;
-    double y2 = 0.0;
+    double x1 = 0.0, y1 = 0.0;  // the first corner or point
+    double x2 = 0.0, y2 = 0.0;  // the second
     Color color = 0;
     double estilo = 0.0;  // line style (field 8)
     double ancho = 0.0;  // line width or font size (field 9)
@@ -89,51 +88,34 @@ inline void EsperaLista(const GeneralDibujo& d, const std::vector<Elemento>& esp
     for (int i = 1; i <= d.NLISTA; ++i) EsperaElemento(d, i, esperados[static_cast<std::size_t>(i - 1)]);
 }
 
+// The counters, the fit and the zoom of a drawing state, as one tuple: two states compare in a
+// single expectation that prints them all.
+inline auto ContadoresAjusteYZoom(const GeneralDibujo& d)
+{
+    return std::tuple(d.NLINEA, d.NTIT, d.NBARRA, d.NPUNTO, d.NSECRECT, d.NSECCIR, d.ANCHOPIC, d.ALTOPIC, d.ESCALAX,
+                      d.ESCALAY, d.ZOOM, d.ZOOMX1, d.ZOOMY1, d.ZOOMX2, d.ZOOMY2, d.F_ZOOM);
+}
+
+// The four flags of the diagrams in one tuple: pivots, moments, section, layers.
+inline auto Banderas(const GeneralDibujo& d) { return std::tuple(d.F_PIVOTES, d.F_MOMENTOS, d.F_SECCION, d.F_CAPAS); }
+
 // A drawing state whose counters, fit and zoom hold values that no diagram procedure writes. A
 // procedure builds the list and sets its flags, and that is all: whoever called it shows the
 // list on a picture, on paper or in a file.
 inline GeneralDibujo DibujoEnUso()
 {
     GeneralDibujo d;
-    d.NLINEA = 11;
-    d.NTIT = 12;
-    d.NBARRA = 13;
-    d.NPUNTO = 14;
-    d.NSECRECT = 15;
-    d.NSECCIR = 16;
-    d.ANCHOPIC = 440.0;
-    d.ALTOPIC = 176.0;
-    d.ESCALAX = 3.5;
-    d.ESCALAY = 4.5;
-    d.ZOOM = 30.0;
-    d.ZOOMX1 = 1.0;
-    d.ZOOMY1 = 2.0;
-    d.ZOOMX2 = 3.0;
-    d.ZOOMY2 = 4.0;
-    d.F_ZOOM = true;
+    static_cast<ContadoresDibujo&>(d) = {
+        .NLINEA = 11, .NTIT = 12, .NBARRA = 13, .NPUNTO = 14, .NSECRECT = 15, .NSECCIR = 16};
+    std::tie(d.ANCHOPIC, d.ALTOPIC, d.ESCALAX, d.ESCALAY) = std::tuple(440.0, 176.0, 3.5, 4.5);
+    std::tie(d.ZOOM, d.ZOOMX1, d.ZOOMY1, d.ZOOMX2, d.ZOOMY2, d.F_ZOOM) = std::tuple(30.0, 1.0, 2.0, 3.0, 4.0, true);
     return d;
 }
 
 // The counters, fit and zoom of DibujoEnUso, as they were.
 inline void EsperaSoloLaLista(const GeneralDibujo& d)
 {
-    const GeneralDibujo antes = DibujoEnUso();
-    EXPECT_EQ(d.NLINEA, antes.NLINEA);
-    EXPECT_EQ(d.NTIT, antes.NTIT);
-    EXPECT_EQ(d.NBARRA, antes.NBARRA);
-    EXPECT_EQ(d.NPUNTO, antes.NPUNTO);
-    EXPECT_EQ(d.NSECRECT, antes.NSECRECT);
-    EXPECT_EQ(d.NSECCIR, antes.NSECCIR);
-    EXPECT_EQ(d.ANCHOPIC, antes.ANCHOPIC);
-    EXPECT_EQ(d.ALTOPIC, antes.ALTOPIC);
-    EXPECT_EQ(d.ESCALAX, antes.ESCALAX);
-    EXPECT_EQ(d.ESCALAY, antes.ESCALAY);
-    EXPECT_EQ(d.ZOOM, antes.ZOOM);
-    EXPECT_EQ(d.ZOOMX1, antes.ZOOMX1);
-    EXPECT_EQ(d.ZOOMY1, antes.ZOOMY1);
-    EXPECT_EQ(d.ZOOMX2, antes.ZOOMX2);
-    EXPECT_EQ(d.ZOOMY2, antes.ZOOMY2);
-    EXPECT_EQ(d.F_ZOOM, antes.F_ZOOM);
+    EXPECT_EQ(ContadoresAjusteYZoom(d), ContadoresAjusteYZoom(DibujoEnUso()));
 }
 
 }  // namespace texalon::prueba

@@ -8,6 +8,7 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <tuple>
 #include <vector>
 
 namespace texalon {
@@ -53,6 +54,16 @@ constexpr int kNombreCapas = 48;
 constexpr int kNombreIncremento = 49;
 constexpr int kTitulo = 50;
 constexpr int kPrimeraLeyenda = 51;  // swatch and name of each type
+
+// A bar of the chart: its first corner and the far side to the last bits of a double, its foot
+// exactly on the axis.
+void EsperaBarra(const Elemento& barra, double x1, double y1, double x2)
+{
+    EXPECT_DOUBLE_EQ(barra.x1, x1);
+    EXPECT_DOUBLE_EQ(barra.y1, y1);
+    EXPECT_DOUBLE_EQ(barra.x2, x2);
+    EXPECT_EQ(barra.y2, 0.0);
+}
 
 // The list that the chart must write, worked out from its rules.
 std::vector<Elemento> EsperadoConfina(const General& g, char sep)
@@ -129,11 +140,7 @@ TEST(DiagramaConfina, ListaHechaAManoConSusValores)
     EXPECT_DOUBLE_EQ(Lee(d, kNombreIncremento).y1, 0.72);
     EXPECT_DOUBLE_EQ(Lee(d, kTitulo).y1, 0.78);
     // The cell (2, 4) is the ninth bar.
-    const Elemento barra = Lee(d, kPrimeraBarra + 5 + 3);
-    EXPECT_DOUBLE_EQ(barra.x1, 3.375);
-    EXPECT_DOUBLE_EQ(barra.y1, 0.6);
-    EXPECT_DOUBLE_EQ(barra.x2, 3.625);
-    EXPECT_EQ(barra.y2, 0.0);
+    EsperaBarra(Lee(d, kPrimeraBarra + 5 + 3), 3.375, 0.6, 3.625);
 }
 
 TEST(DiagramaConfina, TodoPorDebajoDeUnoDaEscalaDeUnaDecima)
@@ -165,10 +172,7 @@ TEST(DiagramaConfina, BarraPorDebajoDeUnoTieneLaPrimeraEsquinaBajoLaSegunda)
     const Elemento barra = Lee(d, kPrimeraBarra + 5 + 2);
     EXPECT_EQ(barra.clase, 5);
     EXPECT_EQ(barra.color, g.COLORES(2));
-    EXPECT_DOUBLE_EQ(barra.x1, 2.375);
-    EXPECT_DOUBLE_EQ(barra.y1, -0.1);
-    EXPECT_DOUBLE_EQ(barra.x2, 2.625);
-    EXPECT_EQ(barra.y2, 0.0);
+    EsperaBarra(barra, 2.375, -0.1, 2.625);
     EXPECT_LT(barra.y1, barra.y2);
 }
 
@@ -179,13 +183,10 @@ TEST(DiagramaConfina, IncrIgualAResumaxMuestraLaMarca)
     DiagramaConfina(g, d, ',');
     ASSERT_EQ(d.NLISTA, 56);
     const Elemento marca = Lee(d, kMarca);
-    EXPECT_EQ(marca.clase, 1);
-    EXPECT_EQ(marca.color, kCiruela64);
-    EXPECT_EQ(marca.estilo, 3.0);
-    EXPECT_EQ(marca.ancho, 3.0);
-    EXPECT_EQ(marca.x1, 0.0);
+    // A dotted plum line of width 3 across the whole chart, exactly from 0 to 5, at the height of INCR.
+    EXPECT_EQ(std::tuple(marca.clase, marca.color, marca.estilo, marca.ancho, marca.x1, marca.x2),
+              std::tuple(1, kCiruela64, 3.0, 3.0, 0.0, 5.0));
     EXPECT_DOUBLE_EQ(marca.y1, 0.5);
-    EXPECT_EQ(marca.x2, 5.0);
     EXPECT_DOUBLE_EQ(marca.y2, 0.5);
 }
 
@@ -273,18 +274,13 @@ TEST(DiagramaConfina, SoloBorraLaBanderaDeSeccion)
 {
     const General g = EstadoConfina(1.5, 1.2);
     GeneralDibujo d;
-    d.F_PIVOTES = d.F_MOMENTOS = d.F_SECCION = d.F_CAPAS = true;
-    DiagramaConfina(g, d, ',');
-    EXPECT_FALSE(d.F_SECCION);
-    EXPECT_TRUE(d.F_PIVOTES);
-    EXPECT_TRUE(d.F_MOMENTOS);
-    EXPECT_TRUE(d.F_CAPAS);
-    d.F_PIVOTES = d.F_MOMENTOS = d.F_SECCION = d.F_CAPAS = false;
-    DiagramaConfina(g, d, ',');
-    EXPECT_FALSE(d.F_SECCION);
-    EXPECT_FALSE(d.F_PIVOTES);
-    EXPECT_FALSE(d.F_MOMENTOS);
-    EXPECT_FALSE(d.F_CAPAS);
+    for (bool antes : {true, false}) {
+        SCOPED_TRACE(antes);
+        d.F_PIVOTES = d.F_MOMENTOS = d.F_SECCION = d.F_CAPAS = antes;
+        DiagramaConfina(g, d, ',');
+        // Pivots, moments and layers as they were; the section's down.
+        EXPECT_EQ(prueba::Banderas(d), std::tuple(antes, antes, false, antes));
+    }
 }
 
 TEST(DiagramaConfina, SoloEscribeLaLista)

@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <string>
+#include <tuple>
 
 namespace texalon {
 namespace {
@@ -37,6 +38,15 @@ void EsperaTexto(const GeneralDibujo& d, int i, double x, double y, Color color,
                  const std::string& texto)
 {
     prueba::EsperaElemento(d, i, prueba::EsperadoTexto(Clase::Texto, x, y, color, tamano, negrita, texto));
+}
+
+// The point where the sheet breaks, at x on the axis: the red point, the dotted red line from the
+// section to it, and its letter R half a unit further out.
+void EsperaPuntoDeRotura(const GeneralDibujo& d, double x)
+{
+    EsperaPunto(d, 9, x, 0.0, kRojoPivote);
+    EsperaLinea(d, 11, 0.0, 0.0, x, 0.0, kRojoPivote, 3, 1);
+    EsperaTexto(d, 16, x - 0.5, 0.0, kRojoPivote, 8, false, "R");
 }
 
 // ---- States and cells.
@@ -69,20 +79,23 @@ ResultadosCeldaFlexion Celda(const std::string& tipo, const std::string& pivote,
                              const std::string& ec, const std::string& er, const std::string& esi,
                              const std::string& ess, const std::string& e0)
 {
-    ResultadosCeldaFlexion c;
-    c.tipo = tipo;
-    c.PIVOTE = pivote;
-    c.FN = fn;
-    c.EPSC = ec;
-    c.EPSR = er;
-    c.EPSSI = esi;
-    c.EPSSS = ess;
-    c.EPS0 = e0;
-    c.MUSR = "222,4";
-    c.MRB = "300,0";
-    c.MLIMCR = "400,0";
-    c.MU = "250,0";
-    return c;
+    return {.tipo = tipo, .MUSR = "222,4", .EPS0 = e0, .MRB = "300,0", .MLIMCR = "400,0", .PIVOTE = pivote,
+            .FN = fn, .EPSC = ec, .EPSSI = esi, .EPSSS = ess, .EPSR = er, .MU = "250,0"};
+}
+
+// The diagram of the cell on the state g.
+GeneralDibujo DiagramaDe(General& g, const ResultadosCeldaFlexion& celda, char separador)
+{
+    GeneralDibujo d;
+    DiagramaPivotes(g, d, celda, separador);
+    return d;
+}
+
+// The diagram of the cell on the default project.
+GeneralDibujo DeLaCelda(const ResultadosCeldaFlexion& celda)
+{
+    General g = CalculadoPorDefecto();
+    return DiagramaDe(g, celda, ',');
 }
 
 // The design strain of a sheet type for n layers, per mil, from the catalogue row and GR.
@@ -99,12 +112,7 @@ double DisenoPorMil(double espesor, double modulo, double epsu, double gr, int c
 // The default project, cell (L, 1 layer): pivot R, neutral axis above the top steel.
 void EsperaCeldaPorDefecto(const GeneralDibujo& d, const std::string& separador)
 {
-    const double h = 0.6;
-    const double r = 0.05;
-    const double ec = 1.99;
-    const double er = 9.64;
-    const double esi = 8.67;
-    const double ess = 1.02;
+    const double h = 0.6, r = 0.05, ec = 1.99, er = 9.64, esi = 8.67, ess = 1.02;
     ASSERT_EQ(d.NLISTA, 18);
     EsperaLinea(d, 1, 0.0, 0.0, 0.0, h, 0, 1, 1);
     EsperaLinea(d, 2, 0.0, h, ec, h, 0, 1, 1);
@@ -131,16 +139,10 @@ TEST(DiagramaPivotes, CeldaRealConComaEscribeLosDieciochoElementos)
     General g = CalculadoPorDefecto();
     const ResultadosCeldaFlexion celda = ResultadosFlexion(g, 1, 1, ',');
     ASSERT_EQ(celda.tipo, "Refuerzo tipo TEXALON L - Núm. capas: 1");
-    ASSERT_EQ(celda.PIVOTE, "R");
-    ASSERT_EQ(celda.FN, "0,103");
-    ASSERT_EQ(celda.EPSC, "1,99");
-    ASSERT_EQ(celda.EPSR, "9,64");
-    ASSERT_EQ(celda.EPSSI, "8,67");
-    ASSERT_EQ(celda.EPSSS, "1,02");
-    ASSERT_EQ(celda.EPS0, "0,00");
+    ASSERT_EQ(std::tie(celda.PIVOTE, celda.FN, celda.EPSC, celda.EPSR, celda.EPSSI, celda.EPSSS, celda.EPS0),
+              std::tuple("R", "0,103", "1,99", "9,64", "8,67", "1,02", "0,00"));
 
-    GeneralDibujo d;
-    DiagramaPivotes(g, d, celda, ',');
+    const GeneralDibujo d = DiagramaDe(g, celda, ',');
     EsperaCeldaPorDefecto(d, ",");
 }
 
@@ -148,12 +150,9 @@ TEST(DiagramaPivotes, CeldaRealConPuntoEscribeLosDieciochoElementos)
 {
     General g = CalculadoPorDefecto();
     const ResultadosCeldaFlexion celda = ResultadosFlexion(g, 1, 1, '.');
-    ASSERT_EQ(celda.EPSC, "1.99");
-    ASSERT_EQ(celda.EPSR, "9.64");
-    ASSERT_EQ(celda.FN, "0.103");
+    ASSERT_EQ(std::tie(celda.EPSC, celda.EPSR, celda.FN), std::tuple("1.99", "9.64", "0.103"));
 
-    GeneralDibujo d;
-    DiagramaPivotes(g, d, celda, '.');
+    const GeneralDibujo d = DiagramaDe(g, celda, '.');
     EsperaCeldaPorDefecto(d, ".");
 }
 
@@ -170,12 +169,8 @@ TEST(DiagramaPivotesT, MismaListaQueLaRectangular)
 {
     General g = CalculadoPorDefecto(2);
     const ResultadosCeldaFlexion celda = ResultadosFlexion(g, 1, 1, ',');
-    ASSERT_EQ(celda.EPSC, "1,99");
-    ASSERT_EQ(celda.EPSR, "9,64");
-    ASSERT_EQ(celda.EPSSI, "8,67");
-    ASSERT_EQ(celda.EPSSS, "1,02");
-    ASSERT_EQ(celda.FN, "0,103");
-    ASSERT_EQ(celda.PIVOTE, "R");
+    ASSERT_EQ(std::tie(celda.EPSC, celda.EPSR, celda.EPSSI, celda.EPSSS, celda.FN, celda.PIVOTE),
+              std::tuple("1,99", "9,64", "8,67", "1,02", "0,103", "R"));
 
     GeneralDibujo d = prueba::DibujoEnUso();
     DiagramaPivotesT(g, d, celda, ',');
@@ -192,14 +187,10 @@ TEST(DiagramaPivotes, EncenderSoloLaBanderaDePivotesYEmpezarListaNueva)
     for (int i = 0; i < 25; ++i)
         AnadePunto(d, 1.0, 1.0, 7);
     d.F_PIVOTES = false;
-    d.F_MOMENTOS = true;
-    d.F_SECCION = true;
-    d.F_CAPAS = true;
+    d.F_MOMENTOS = d.F_SECCION = d.F_CAPAS = true;
     DiagramaPivotes(g, d, ResultadosFlexion(g, 1, 1, ','), ',');
-    EXPECT_TRUE(d.F_PIVOTES);
-    EXPECT_FALSE(d.F_MOMENTOS);
-    EXPECT_FALSE(d.F_SECCION);
-    EXPECT_FALSE(d.F_CAPAS);
+    // Pivots, moments, section and layers.
+    EXPECT_EQ(prueba::Banderas(d), std::tuple(true, false, false, false));
     EXPECT_EQ(d.NLISTA, 18);
     EXPECT_EQ(d.LISTA(19, campo::kClase), 0.0);
     EXPECT_EQ(d.LISTA(25, campo::kX1), 0.0);
@@ -213,12 +204,9 @@ TEST(DiagramaPivotes, PivoteRPoneElPuntoEnElExtremoIzquierdoDeLaLineaInclinada)
     // initial strain does not move it.
     General g = CalculadoConPredeformacion();
     const ResultadosCeldaFlexion celda = ResultadosFlexion(g, 3, 1, ',');
-    ASSERT_EQ(celda.PIVOTE, "R");
-    ASSERT_EQ(celda.EPSR, "3,66");
-    ASSERT_EQ(celda.EPS0, "0,39");
+    ASSERT_EQ(std::tie(celda.PIVOTE, celda.EPSR, celda.EPS0), std::tuple("R", "3,66", "0,39"));
 
-    GeneralDibujo d;
-    DiagramaPivotes(g, d, celda, ',');
+    const GeneralDibujo d = DiagramaDe(g, celda, ',');
     const Elemento inclinada = Lee(d, 6);
     const Elemento punto = Lee(d, 9);
     EXPECT_EQ(punto.x1, inclinada.x1);
@@ -230,11 +218,8 @@ TEST(DiagramaPivotes, PivoteRPoneElPuntoEnElExtremoIzquierdoDeLaLineaInclinada)
 
 TEST(DiagramaPivotes, PivoteRSeLeeRecortado)
 {
-    General g = CalculadoPorDefecto();
-    GeneralDibujo d;
-    DiagramaPivotes(
-        g, d, Celda("Refuerzo tipo TEXALON H - Núm. capas: 4", "  R ", "0,200", "2,00", "6,00", "5,00", "1,00", "0,50"),
-        ',');
+    const GeneralDibujo d = DeLaCelda(
+        Celda("Refuerzo tipo TEXALON H - Núm. capas: 4", "  R ", "0,200", "2,00", "6,00", "5,00", "1,00", "0,50"));
     EsperaPunto(d, 9, -6.0, 0.0, kRojoPivote);
 }
 
@@ -242,20 +227,14 @@ TEST(DiagramaPivotes, PivoteBPoneElPuntoEnLaDeformacionDeDisenoMenosLaInicial)
 {
     General g = CalculadoConPredeformacion();
     const ResultadosCeldaFlexion celda = ResultadosFlexion(g, 2, 3, ',');
-    ASSERT_EQ(celda.tipo, "Refuerzo tipo TEXALON H - Núm. capas: 3");
-    ASSERT_EQ(celda.PIVOTE, "B");
-    ASSERT_EQ(celda.EPSR, "4,50");
-    ASSERT_EQ(celda.EPSC, "3,50");
-    ASSERT_EQ(celda.EPS0, "0,39");
+    ASSERT_EQ(std::tie(celda.tipo, celda.PIVOTE, celda.EPSR, celda.EPSC, celda.EPS0),
+              std::tuple("Refuerzo tipo TEXALON H - Núm. capas: 3", "B", "4,50", "3,50", "0,39"));
 
-    GeneralDibujo d;
-    DiagramaPivotes(g, d, celda, ',');
+    const GeneralDibujo d = DiagramaDe(g, celda, ',');
     // TEXALON H: 0.167 mm, 230000 N/mm², 0.015; GR 1.4.
     const double xr = -DisenoPorMil(0.167, 230000.0, 0.015, 1.4, 3) - 0.39;
     EXPECT_NEAR(xr, -8.220, 0.001);  // 7.830 per mil of design strain, less 0.39
-    EsperaPunto(d, 9, xr, 0.0, kRojoPivote);
-    EsperaLinea(d, 11, 0.0, 0.0, xr, 0.0, kRojoPivote, 3, 1);
-    EsperaTexto(d, 16, xr - 0.5, 0.0, kRojoPivote, 8, false, "R");
+    EsperaPuntoDeRotura(d, xr);
     // The sheet's own strain line stops short of the pivot.
     EsperaLinea(d, 3, 0.0, 0.0, -4.5, 0.0, 0, 1, 1);
     EsperaLinea(d, 6, -4.5, 0.0, 3.5, 0.6, 0, 1, 1);
@@ -265,27 +244,19 @@ TEST(DiagramaPivotes, PivoteBPoneElPuntoEnLaDeformacionDeDisenoMenosLaInicial)
 TEST(DiagramaPivotes, PivoteAConCincoCapasLeeElDigitoPorCaracteresNoPorBytes)
 {
     // The "ú" of the caption is two bytes: the layer digit is the 39th character, not byte.
-    General g = CalculadoPorDefecto();
-    GeneralDibujo d;
-    DiagramaPivotes(
-        g, d, Celda("Refuerzo tipo TEXALON X - Núm. capas: 5", "A", "0,080", "1,20", "2,00", "10,00", "0,30", "0,25"),
-        ',');
+    const GeneralDibujo d = DeLaCelda(
+        Celda("Refuerzo tipo TEXALON X - Núm. capas: 5", "A", "0,080", "1,20", "2,00", "10,00", "0,30", "0,25"));
     // TEXALON X: 0.163 mm, 440000 N/mm², 0.0055; GR 1.4.
     const double xr = -DisenoPorMil(0.163, 440000.0, 0.0055, 1.4, 5) - 0.25;
     EXPECT_NEAR(xr, -1.422, 0.001);
-    EsperaPunto(d, 9, xr, 0.0, kRojoPivote);
-    EsperaLinea(d, 11, 0.0, 0.0, xr, 0.0, kRojoPivote, 3, 1);
-    EsperaTexto(d, 16, xr - 0.5, 0.0, kRojoPivote, 8, false, "R");
+    EsperaPuntoDeRotura(d, xr);
     EsperaLinea(d, 4, 0.0, 0.05, -10.0, 0.05, 0, 3, 1);
 }
 
 TEST(DiagramaPivotes, PivoteBDeTipoLConDosCapas)
 {
-    General g = CalculadoPorDefecto();
-    GeneralDibujo d;
-    DiagramaPivotes(
-        g, d, Celda("Refuerzo tipo TEXALON L - Núm. capas: 2", "B", "0,300", "3,50", "4,00", "3,00", "2,50", "0,00"),
-        ',');
+    const GeneralDibujo d = DeLaCelda(
+        Celda("Refuerzo tipo TEXALON L - Núm. capas: 2", "B", "0,300", "3,50", "4,00", "3,00", "2,50", "0,00"));
     const double xr = -DisenoPorMil(0.111, 230000.0, 0.015, 1.4, 2) - 0.0;
     EXPECT_NEAR(xr, -9.436, 0.001);
     EsperaPunto(d, 9, xr, 0.0, kRojoPivote);
@@ -306,21 +277,15 @@ TEST(DiagramaPivotes, FibraNeutraIgualAlRecubrimientoDibujaElAceroSuperiorCompri
 
 TEST(DiagramaPivotes, FibraNeutraPorDebajoDelRecubrimientoDibujaElAceroSuperiorTraccionado)
 {
-    General g = CalculadoPorDefecto();
-    GeneralDibujo d;
-    DiagramaPivotes(
-        g, d, Celda("Refuerzo tipo TEXALON L - Núm. capas: 1", "R", "0,049", "0,10", "9,64", "8,00", "0,75", "0,00"),
-        ',');
+    const GeneralDibujo d = DeLaCelda(
+        Celda("Refuerzo tipo TEXALON L - Núm. capas: 1", "R", "0,049", "0,10", "9,64", "8,00", "0,75", "0,00"));
     EsperaLinea(d, 5, 0.0, 0.6 - 0.05, -0.75, 0.6 - 0.05, 0, 3, 1);
 }
 
 TEST(DiagramaPivotes, AceroSuperiorSinDeformacionNoTieneLongitud)
 {
-    General g = CalculadoPorDefecto();
-    GeneralDibujo d;
-    DiagramaPivotes(
-        g, d, Celda("Refuerzo tipo TEXALON L - Núm. capas: 1", "R", "0,550", "3,00", "9,64", "8,00", "0,00", "0,00"),
-        ',');
+    const GeneralDibujo d = DeLaCelda(
+        Celda("Refuerzo tipo TEXALON L - Núm. capas: 1", "R", "0,550", "3,00", "9,64", "8,00", "0,00", "0,00"));
     const Elemento e = Lee(d, 5);
     EXPECT_EQ(e.clase, 1);
     EXPECT_EQ(e.x1, 0.0);
@@ -368,11 +333,8 @@ Extension ExtensionDe(const GeneralDibujo& d)
 
 TEST(DiagramaPivotes, ExtensionHorizontalAlMenosDeMenosDiezYMedioACuatro)
 {
-    General g = CalculadoPorDefecto();
-    GeneralDibujo d;
-    DiagramaPivotes(
-        g, d, Celda("Refuerzo tipo TEXALON L - Núm. capas: 1", "R", "0,200", "0,50", "1,00", "0,80", "0,20", "0,00"),
-        ',');
+    const GeneralDibujo d = DeLaCelda(
+        Celda("Refuerzo tipo TEXALON L - Núm. capas: 1", "R", "0,200", "0,50", "1,00", "0,80", "0,20", "0,00"));
     const Extension x = ExtensionDe(d);
     EXPECT_EQ(x.xmin, -10.5);
     EXPECT_EQ(x.xmax, 4.0);
@@ -380,15 +342,11 @@ TEST(DiagramaPivotes, ExtensionHorizontalAlMenosDeMenosDiezYMedioACuatro)
 
 TEST(DiagramaPivotes, EscalaVerticalDependeSoloDelCanto)
 {
-    General g = CalculadoPorDefecto();
-    GeneralDibujo poca;
-    DiagramaPivotes(
-        g, poca, Celda("Refuerzo tipo TEXALON L - Núm. capas: 1", "R", "0,200", "0,50", "1,00", "0,80", "0,20", "0,00"),
-        ',');
-    GeneralDibujo mucha;
-    DiagramaPivotes(
-        g, mucha,
-        Celda("Refuerzo tipo TEXALON H - Núm. capas: 3", "B", "0,300", "3,50", "9,00", "8,00", "2,00", "1,50"), ',');
+    // Little strain and much, each drawn on the default project.
+    GeneralDibujo poca = DeLaCelda(
+        Celda("Refuerzo tipo TEXALON L - Núm. capas: 1", "R", "0,200", "0,50", "1,00", "0,80", "0,20", "0,00"));
+    GeneralDibujo mucha = DeLaCelda(
+        Celda("Refuerzo tipo TEXALON H - Núm. capas: 3", "B", "0,300", "3,50", "9,00", "8,00", "2,00", "1,50"));
     const double h = 0.6;
     for (GeneralDibujo* d : {&poca, &mucha}) {
         const Extension x = ExtensionDe(*d);
@@ -413,9 +371,8 @@ TEST(DiagramaPivotes, DejaEnElEstadoElTipoDeLaCelda)
     DiagramaPivotes(
         g, d, Celda("Refuerzo tipo TEXALON X - Núm. capas: 2", "R", "0,100", "0,60", "2,61", "2,35", "0,26", "0,00"),
         ',');
-    EXPECT_EQ(g.ESPESOR, 0.163);
-    EXPECT_EQ(g.E, 440000.0);
-    EXPECT_EQ(g.EPSU, 0.0055);
+    // The catalogue row of the type: thickness, modulus and ultimate strain.
+    EXPECT_EQ(std::tie(g.ESPESOR, g.E, g.EPSU), std::tuple(0.163, 440000.0, 0.0055));
     ASSERT_EQ(g.KM.Filas(), 5);
     ASSERT_EQ(g.EPSD.Filas(), 5);
     const double kmEsperado[] = {0.832430, 0.664860, 0.497304, 0.372978, 0.298383};
@@ -434,9 +391,8 @@ TEST(DiagramaPivotes, ElTipoHDejaSuFilaYSuDeformacionDeDiseno)
     DiagramaPivotes(
         g, d, Celda("Refuerzo tipo TEXALON H - Núm. capas: 1", "R", "0,100", "1,60", "9,64", "8,60", "0,70", "0,00"),
         ',');
-    EXPECT_EQ(g.ESPESOR, 0.167);
-    EXPECT_EQ(g.E, 230000.0);
-    EXPECT_EQ(g.EPSU, 0.015);
+    // The catalogue row of the type: thickness, modulus and ultimate strain.
+    EXPECT_EQ(std::tie(g.ESPESOR, g.E, g.EPSU), std::tuple(0.167, 230000.0, 0.015));
     EXPECT_EQ(g.KM(1), 0.9);
     EXPECT_NEAR(g.KM(5), 0.551285, 0.0000005);
     EXPECT_NEAR(g.EPSD(3), 0.007830, 0.0000005);
@@ -444,65 +400,54 @@ TEST(DiagramaPivotes, ElTipoHDejaSuFilaYSuDeformacionDeDiseno)
 
 // ---- Cells the diagram cannot draw.
 
-TEST(DiagramaPivotes, CeldaSinValorEsElErrorDeTipos)
+// The number of the run-time error that drawing the cell on the default project raises; 0 where
+// the cell is drawn.
+int ErrorAlDibujar(void (*diagrama)(General&, GeneralDibujo&, const ResultadosCeldaFlexion&, char),
+                   const ResultadosCeldaFlexion& celda)
 {
     General g = CalculadoPorDefecto();
-    const ResultadosCeldaFlexion celda = ResultadosFlexion(g, 3, 3, ',');
-    ASSERT_EQ(celda.EPSC, "---");
     GeneralDibujo d;
     try {
-        DiagramaPivotes(g, d, celda, ',');
-        FAIL() << "una celda \"---\" no se puede dibujar";
+        diagrama(g, d, celda, ',');
     } catch (const ErrorEjecucion& error) {
-        EXPECT_EQ(error.Numero(), ErrorEjecucion::kTiposNoCoinciden);
-        EXPECT_EQ(error.Numero(), 13);
+        return error.Numero();
     }
+    return 0;
+}
+
+TEST(DiagramaPivotes, CeldaSinValorEsElErrorDeTipos)
+{
+    const ResultadosCeldaFlexion celda = ResultadosFlexion(CalculadoPorDefecto(), 3, 3, ',');
+    ASSERT_EQ(celda.EPSC, "---");
+    const int error = ErrorAlDibujar(DiagramaPivotes, celda);
+    EXPECT_EQ(error, ErrorEjecucion::kTiposNoCoinciden) << "una celda \"---\" no se puede dibujar";
+    EXPECT_EQ(error, 13);
 }
 
 TEST(DiagramaPivotes, UnSoloCampoSinNumeroEsElErrorDeTipos)
 {
-    General g = CalculadoPorDefecto();
-    GeneralDibujo d;
     ResultadosCeldaFlexion celda =
         Celda("Refuerzo tipo TEXALON L - Núm. capas: 1", "R", "0,100", "1,60", "9,64", "8,60", "0,70", "0,00");
     celda.FN = "---";
-    try {
-        DiagramaPivotesT(g, d, celda, ',');
-        FAIL() << "\"---\" no es un número";
-    } catch (const ErrorEjecucion& error) {
-        EXPECT_EQ(error.Numero(), 13);
-    }
+    EXPECT_EQ(ErrorAlDibujar(DiagramaPivotesT, celda), 13) << "\"---\" no es un número";
 }
 
 TEST(DiagramaPivotes, TituloSinTipoEsElErrorDeSubindice)
 {
-    General g = CalculadoPorDefecto();
-    GeneralDibujo d;
-    try {
-        DiagramaPivotes(
-            g, d,
-            Celda("Refuerzo tipo TEXALON Z - Núm. capas: 1", "R", "0,100", "1,60", "9,64", "8,60", "0,70", "0,00"),
-            ',');
-        FAIL() << "un título sin tipo no se puede dibujar";
-    } catch (const ErrorEjecucion& error) {
-        EXPECT_EQ(error.Numero(), ErrorEjecucion::kSubindiceFueraDeIntervalo);
-        EXPECT_EQ(error.Numero(), 9);
-    }
+    const int error = ErrorAlDibujar(
+        DiagramaPivotes,
+        Celda("Refuerzo tipo TEXALON Z - Núm. capas: 1", "R", "0,100", "1,60", "9,64", "8,60", "0,70", "0,00"));
+    EXPECT_EQ(error, ErrorEjecucion::kSubindiceFueraDeIntervalo) << "un título sin tipo no se puede dibujar";
+    EXPECT_EQ(error, 9);
 }
 
 TEST(DiagramaPivotes, ElCodigoSeTomaPorSuPosicionYNoBuscandolo)
 {
     // The code "L" is in the caption, but not at the 23rd character.
-    General g = CalculadoPorDefecto();
-    GeneralDibujo d;
-    try {
-        DiagramaPivotes(
-            g, d, Celda("Refuerzo TEXALON L - Núm. capas: 1", "R", "0,100", "1,60", "9,64", "8,60", "0,70", "0,00"),
-            ',');
-        FAIL() << "el código no está en su sitio";
-    } catch (const ErrorEjecucion& error) {
-        EXPECT_EQ(error.Numero(), 9);
-    }
+    EXPECT_EQ(ErrorAlDibujar(DiagramaPivotes, Celda("Refuerzo TEXALON L - Núm. capas: 1", "R", "0,100", "1,60",
+                                                    "9,64", "8,60", "0,70", "0,00")),
+              9)
+        << "el código no está en su sitio";
 }
 
 }  // namespace

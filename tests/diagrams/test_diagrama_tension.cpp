@@ -2,12 +2,15 @@
 #include "diagrams/Grafico.h"
 
 #include "Elementos.h"
+#include "comun/Tablas.h"
 #include "engine/Caracteristicas.h"
 #include "state/ErrorEjecucion.h"
 
 #include <gtest/gtest.h>
 
+#include <optional>
 #include <string>
+#include <tuple>
 #include <vector>
 
 namespace texalon {
@@ -41,6 +44,24 @@ void FijaTipo(General& g, int tipo, double epsu, double modulo)
 // Where the strain axis ends and where the stress axis ends.
 double FinDeformacion(const GeneralDibujo& d) { return Lee(d, 1).x2; }
 double FinTension(const GeneralDibujo& d) { return Lee(d, 2).y2; }
+
+// The ultimate strain and the modulus of a sheet type.
+struct Lamina {
+    double epsu;
+    double modulo;
+};
+
+// The chart of type 1 once the three types have these sheets.
+GeneralDibujo TensionConLaminas(const Lamina& l, const Lamina& h, const Lamina& x)
+{
+    General g = EstadoCaracteristicas(1);
+    FijaTipo(g, 1, l.epsu, l.modulo);
+    FijaTipo(g, 2, h.epsu, h.modulo);
+    FijaTipo(g, 3, x.epsu, x.modulo);
+    GeneralDibujo d;
+    DiagramaTension(g, d, 1, ',');
+    return d;
+}
 
 // The full list of the start-up project with the type TEXALON L in hand. The extents worked
 // out by hand: the greatest ultimate strain is 15 per mil, odd, so the axis goes to 16 per mil;
@@ -228,12 +249,8 @@ TEST(DiagramaTension, NumerosDeCapas125PorEncimaEnElColorDeLaLineaYSolapadosSiEp
 
 TEST(DiagramaTension, TensionMaximaQueRedondeaAMultiploDe500SeQuedaComoEsta)
 {
-    General g = EstadoCaracteristicas(1);
-    FijaTipo(g, 1, 0.01, 250040.0);  // 2500.4
-    FijaTipo(g, 2, 0.01, 100000.0);
-    FijaTipo(g, 3, 0.01, 100000.0);
-    GeneralDibujo d;
-    DiagramaTension(g, d, 1, ',');
+    // Type L up to 2500.4 N/mm².
+    const GeneralDibujo d = TensionConLaminas({0.01, 250040.0}, {0.01, 100000.0}, {0.01, 100000.0});
     EXPECT_DOUBLE_EQ(FinTension(d), 2500.4);
     EXPECT_EQ(FinTension(d), 0.01 * 250040.0);
     // The ticks are tenths of the untidy extent: 250.04 shows as 250.
@@ -241,48 +258,48 @@ TEST(DiagramaTension, TensionMaximaQueRedondeaAMultiploDe500SeQuedaComoEsta)
     EXPECT_DOUBLE_EQ(Lee(d, 38).y1, 250.04);
 }
 
-TEST(DiagramaTension, TensionMaximaDe2501SubeA3000)
+// The sheets of the three types, and where the scales end: the strain's end and the stress's,
+// each exactly, where the case looks at it.
+struct FinDeEscala {
+    const char* nombre;
+    Lamina l, h, x;
+    std::optional<double> deformacion;
+    std::optional<double> tension;
+};
+
+class FinDeLasEscalas : public ::testing::TestWithParam<FinDeEscala> {};
+
+TEST_P(FinDeLasEscalas, EsElQueTocaALasLaminas)
 {
-    General g = EstadoCaracteristicas(1);
-    FijaTipo(g, 1, 0.01, 250100.0);  // 2501
-    FijaTipo(g, 2, 0.01, 100000.0);
-    FijaTipo(g, 3, 0.01, 100000.0);
-    GeneralDibujo d;
-    DiagramaTension(g, d, 1, ',');
-    EXPECT_EQ(FinTension(d), 3000.0);
+    const FinDeEscala& caso = GetParam();
+    const GeneralDibujo d = TensionConLaminas(caso.l, caso.h, caso.x);
+    if (caso.deformacion) {
+        EXPECT_EQ(FinDeformacion(d), *caso.deformacion);
+    }
+    if (caso.tension) {
+        EXPECT_EQ(FinTension(d), *caso.tension);
+    }
 }
 
-TEST(DiagramaTension, TensionEnElMedioRedondeaAlParYSeQueda)
-{
-    General g = EstadoCaracteristicas(1);
-    FijaTipo(g, 1, 0.5, 5001.0);  // 2500.5: to the even 2500, a multiple
-    FijaTipo(g, 2, 0.01, 100000.0);
-    FijaTipo(g, 3, 0.01, 100000.0);
-    GeneralDibujo d;
-    DiagramaTension(g, d, 1, ',');
-    EXPECT_EQ(FinTension(d), 2500.5);
-}
+// clang-format off
+const FinDeEscala kFinesDeEscala[] = {
+    // Type L up to 2501 N/mm².
+    {"TensionMaximaDe2501SubeA3000", {0.01, 250100.0}, {0.01, 100000.0}, {0.01, 100000.0}, {}, 3000.0},
+    // Type L up to 2500.5 N/mm²: to the even 2500, a multiple.
+    {"TensionEnElMedioRedondeaAlParYSeQueda", {0.5, 5001.0}, {0.01, 100000.0}, {0.01, 100000.0}, {}, 2500.5},
+    // Type X to 20 per mil, 4000 N/mm².
+    {"ElUltimoTipoFijaLasEscalasSiEsElMasLargoYElMasFuerte",
+     {0.01, 100000.0}, {0.01, 100000.0}, {0.02, 200000.0}, 0.02, 4000.0},
+    // Type L to 12.5 per mil, which goes to 12, even.
+    {"DeformacionEnElMedioRedondeaAlParYSeQueda", {0.0125, 200000.0}, {0.01, 200000.0}, {0.005, 200000.0}, 0.0125, {}},
+};
+// clang-format on
 
-TEST(DiagramaTension, ElUltimoTipoFijaLasEscalasSiEsElMasLargoYElMasFuerte)
-{
-    General g = EstadoCaracteristicas(1);
-    FijaTipo(g, 1, 0.01, 100000.0);
-    FijaTipo(g, 2, 0.01, 100000.0);
-    FijaTipo(g, 3, 0.02, 200000.0);  // 20 per mil, 4000 N/mm²
-    GeneralDibujo d;
-    DiagramaTension(g, d, 1, ',');
-    EXPECT_EQ(FinDeformacion(d), 0.02);
-    EXPECT_EQ(FinTension(d), 4000.0);
-}
+INSTANTIATE_TEST_SUITE_P(DiagramaTension, FinDeLasEscalas, ::testing::ValuesIn(kFinesDeEscala), prueba::NombreDeFila());
 
 TEST(DiagramaTension, DeformacionQueRedondeaAParSeQuedaYLasEtiquetasNoSonRedondas)
 {
-    General g = EstadoCaracteristicas(1);
-    FijaTipo(g, 1, 0.0121, 200000.0);
-    FijaTipo(g, 2, 0.01, 200000.0);
-    FijaTipo(g, 3, 0.005, 200000.0);
-    GeneralDibujo d;
-    DiagramaTension(g, d, 1, ',');
+    const GeneralDibujo d = TensionConLaminas({0.0121, 200000.0}, {0.01, 200000.0}, {0.005, 200000.0});
     EXPECT_EQ(FinDeformacion(d), 0.0121);
     // 1.21, 2.42, ... per mil.
     const std::vector<std::string> esperadas = {"1,21", "2,42", "3,63", "4,84", "6,05",
@@ -295,25 +312,9 @@ TEST(DiagramaTension, DeformacionQueRedondeaAParSeQuedaYLasEtiquetasNoSonRedonda
     }
 }
 
-TEST(DiagramaTension, DeformacionEnElMedioRedondeaAlParYSeQueda)
-{
-    General g = EstadoCaracteristicas(1);
-    FijaTipo(g, 1, 0.0125, 200000.0);  // 12.5 per mil goes to 12, even
-    FijaTipo(g, 2, 0.01, 200000.0);
-    FijaTipo(g, 3, 0.005, 200000.0);
-    GeneralDibujo d;
-    DiagramaTension(g, d, 1, ',');
-    EXPECT_EQ(FinDeformacion(d), 0.0125);
-}
-
 TEST(DiagramaTension, DeformacionDe13PorMilSubeA14)
 {
-    General g = EstadoCaracteristicas(1);
-    FijaTipo(g, 1, 0.0131, 200000.0);
-    FijaTipo(g, 2, 0.01, 200000.0);
-    FijaTipo(g, 3, 0.005, 200000.0);
-    GeneralDibujo d;
-    DiagramaTension(g, d, 1, ',');
+    const GeneralDibujo d = TensionConLaminas({0.0131, 200000.0}, {0.01, 200000.0}, {0.005, 200000.0});
     EXPECT_DOUBLE_EQ(FinDeformacion(d), 0.014);
 }
 
@@ -357,10 +358,8 @@ TEST(DiagramaTension, NoTocaNingunaBandera)
         d.F_SECCION = valor;
         d.F_CAPAS = !valor;
         DiagramaTension(g, d, 1, ',');
-        EXPECT_EQ(d.F_PIVOTES, valor);
-        EXPECT_EQ(d.F_MOMENTOS, !valor);
-        EXPECT_EQ(d.F_SECCION, valor);
-        EXPECT_EQ(d.F_CAPAS, !valor);
+        // Pivots, moments, section and layers.
+        EXPECT_EQ(prueba::Banderas(d), std::tuple(valor, !valor, valor, !valor));
     }
 }
 

@@ -3,6 +3,7 @@
 #include "diagrams/Grafico.h"
 
 #include "Elementos.h"
+#include "comun/Tablas.h"
 #include "engine/Calcular.h"
 #include "state/Formato.h"
 
@@ -219,49 +220,65 @@ const std::array<Caso, 4> kCasos = {{
 
 // ---- Whole lists.
 
-TEST(DiagramaMomentoArea, ProyectoInicialDaLaListaCompletaConComa)
+// The start-up project's whole list of each chart, with each decimal separator.
+struct ListaInicial {
+    const char* nombre;
+    void (*diagrama)(const General&, GeneralDibujo&, char);
+    std::vector<Elemento> (*esperado)(const General&, char);
+    char sep;
+    int elementos;
+};
+
+class ListaDelProyectoInicial : public ::testing::TestWithParam<ListaInicial> {};
+
+TEST_P(ListaDelProyectoInicial, EsLaCompleta)
 {
     const General g = ProyectoInicial();
     // The start-up project: X passes its peak at two layers, and MD of 0 has no marker.
     ASSERT_EQ(g.MU(3, 3), kMarcaSinMejora);
     ASSERT_NE(g.MU(3, 2), kMarcaSinMejora);
     GeneralDibujo d;
-    DiagramaMomentoArea(g, d, ',');
-    EXPECT_EQ(d.NLISTA, 61);
-    prueba::EsperaLista(d, EsperadoArea(g, ','));
+    GetParam().diagrama(g, d, GetParam().sep);
+    EXPECT_EQ(d.NLISTA, GetParam().elementos);
+    prueba::EsperaLista(d, GetParam().esperado(g, GetParam().sep));
 }
 
-TEST(DiagramaMomentoArea, ProyectoInicialDaLaListaCompletaConPunto)
+// clang-format off
+const ListaInicial kListasIniciales[] = {
+    {"AreaConComa",   DiagramaMomentoArea,  EsperadoArea,  ',', 61},
+    {"AreaConPunto",  DiagramaMomentoArea,  EsperadoArea,  '.', 61},
+    {"CapasConComa",  DiagramaMomentoCapas, EsperadoCapas, ',', 62},
+    {"CapasConPunto", DiagramaMomentoCapas, EsperadoCapas, '.', 62},
+};
+// clang-format on
+
+INSTANTIATE_TEST_SUITE_P(DiagramaMomento, ListaDelProyectoInicial, ::testing::ValuesIn(kListasIniciales),
+                         prueba::NombreDeFila());
+
+// A segment of the steps of a type: its abscissas to the last bits of a double, its layers
+// exactly.
+void EsperaEscalon(const Elemento& e, double x1, double y1, double x2, double y2)
 {
-    const General g = ProyectoInicial();
-    GeneralDibujo d;
-    DiagramaMomentoArea(g, d, '.');
-    prueba::EsperaLista(d, EsperadoArea(g, '.'));
+    EXPECT_DOUBLE_EQ(e.x1, x1);
+    EXPECT_EQ(e.y1, y1);
+    EXPECT_DOUBLE_EQ(e.x2, x2);
+    EXPECT_EQ(e.y2, y2);
 }
 
-TEST(DiagramaMomentoCapas, ProyectoInicialDaLaListaCompletaConComa)
+// The chart of the hand-made table under 230 mkN, against the list that its rules give.
+GeneralDibujo DeLaTablaHechaAMano(void (*diagrama)(const General&, GeneralDibujo&, char),
+                                  std::vector<Elemento> (*esperado)(const General&, char), char sep)
 {
-    const General g = ProyectoInicial();
+    const General g = EstadoCompleto(230.0);
     GeneralDibujo d;
-    DiagramaMomentoCapas(g, d, ',');
-    EXPECT_EQ(d.NLISTA, 62);
-    prueba::EsperaLista(d, EsperadoCapas(g, ','));
-}
-
-TEST(DiagramaMomentoCapas, ProyectoInicialDaLaListaCompletaConPunto)
-{
-    const General g = ProyectoInicial();
-    GeneralDibujo d;
-    DiagramaMomentoCapas(g, d, '.');
-    prueba::EsperaLista(d, EsperadoCapas(g, '.'));
+    diagrama(g, d, sep);
+    prueba::EsperaLista(d, esperado(g, sep));
+    return d;
 }
 
 TEST(DiagramaMomentoArea, TablaHechaAManoConSusValores)
 {
-    const General g = EstadoCompleto(230.0);
-    GeneralDibujo d;
-    DiagramaMomentoArea(g, d, ',');
-    prueba::EsperaLista(d, EsperadoArea(g, ','));
+    const GeneralDibujo d = DeLaTablaHechaAMano(DiagramaMomentoArea, EsperadoArea, ',');
     // minM 222.5, maxM 294: R = 78.65; maxA = 5 × 20.875 = 104.375.
     EXPECT_DOUBLE_EQ(Lee(d, 1).x2, 78.65);
     EXPECT_DOUBLE_EQ(Lee(d, 2).y2, 114.8125);
@@ -275,28 +292,13 @@ TEST(DiagramaMomentoArea, TablaHechaAManoConSusValores)
 
 TEST(DiagramaMomentoCapas, TablaHechaAManoConSusValores)
 {
-    const General g = EstadoCompleto(230.0);
-    GeneralDibujo d;
-    DiagramaMomentoCapas(g, d, '.');
-    prueba::EsperaLista(d, EsperadoCapas(g, '.'));
+    const GeneralDibujo d = DeLaTablaHechaAMano(DiagramaMomentoCapas, EsperadoCapas, '.');
     EXPECT_DOUBLE_EQ(Lee(d, 1).x2, 78.65);
     EXPECT_EQ(Lee(d, 2).y2, 6.0);
     // Type L: the step from the unreinforced section at one layer, then riser and tread.
-    const Elemento inicio = Lee(d, 3);
-    EXPECT_DOUBLE_EQ(inicio.x1, 0.0);
-    EXPECT_EQ(inicio.y1, 1.0);
-    EXPECT_DOUBLE_EQ(inicio.x2, 17.5);
-    EXPECT_EQ(inicio.y2, 1.0);
-    const Elemento contrahuella = Lee(d, 4);
-    EXPECT_DOUBLE_EQ(contrahuella.x1, 17.5);
-    EXPECT_EQ(contrahuella.y1, 1.0);
-    EXPECT_DOUBLE_EQ(contrahuella.x2, 17.5);
-    EXPECT_EQ(contrahuella.y2, 2.0);
-    const Elemento huella = Lee(d, 5);
-    EXPECT_DOUBLE_EQ(huella.x1, 17.5);
-    EXPECT_EQ(huella.y1, 2.0);
-    EXPECT_DOUBLE_EQ(huella.x2, 27.5);
-    EXPECT_EQ(huella.y2, 2.0);
+    EsperaEscalon(Lee(d, 3), 0.0, 1.0, 17.5, 1.0);  // the start
+    EsperaEscalon(Lee(d, 4), 17.5, 1.0, 17.5, 2.0);  // the riser
+    EsperaEscalon(Lee(d, 5), 17.5, 2.0, 27.5, 2.0);  // the tread
 }
 
 // ---- Edge cases.

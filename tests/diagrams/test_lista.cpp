@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <tuple>
+
 namespace texalon {
 namespace {
 
@@ -14,6 +16,20 @@ GeneralDibujo ListaVacia()
     GeneralDibujo d;
     NuevaLista(d);
     return d;
+}
+
+// The point (x, y) of the world at the pixel (px, py), each to the last bits of a double.
+void EsperaEnPixeles(const Encuadre& e, double x, double y, double px, double py)
+{
+    EXPECT_DOUBLE_EQ(e.X(x), px);
+    EXPECT_DOUBLE_EQ(e.Y(y), py);
+}
+
+// The scales of the fit, each to the last bits of a double.
+void EsperaEscalas(const GeneralDibujo& d, double escalax, double escalay)
+{
+    EXPECT_DOUBLE_EQ(d.ESCALAX, escalax);
+    EXPECT_DOUBLE_EQ(d.ESCALAY, escalay);
 }
 
 TEST(NuevaLista, DejaMilElementosDeDiezCamposVaciosYNingunoContado)
@@ -48,14 +64,9 @@ TEST(Escritores, CadaElementoOcupaLosCamposDeSuClase)
     ASSERT_EQ(d.NLISTA, 4);
 
     const prueba::Elemento linea = Lee(d, 1);
-    EXPECT_EQ(linea.clase, 1);
-    EXPECT_EQ(linea.x1, 1);
-    EXPECT_EQ(linea.y1, 2);
-    EXPECT_EQ(linea.x2, 3);
-    EXPECT_EQ(linea.y2, 4);
-    EXPECT_EQ(linea.color, 1 + 2 * 256 + 3 * 65536);
-    EXPECT_EQ(linea.estilo, 3);
-    EXPECT_EQ(linea.ancho, 2);
+    // Kind, corners, colour, style and width, exactly.
+    EXPECT_EQ(std::tuple(linea.clase, linea.x1, linea.y1, linea.x2, linea.y2, linea.color, linea.estilo, linea.ancho),
+              std::tuple(1, 1, 2, 3, 4, 1 + 2 * 256 + 3 * 65536, 3, 2));
 
     const prueba::Elemento punto = Lee(d, 2);
     EXPECT_EQ(punto.clase, 2);
@@ -125,13 +136,10 @@ TEST(Ajusta, UnTextoSoloEnCincoCincoAjustaLaCajaDesdeElOrigen)
     const Encuadre e = Ajusta(d, 400, 300, 0);
     EXPECT_EQ(e.xmin, 0.0);
     EXPECT_EQ(e.ymin, 0.0);
-    EXPECT_DOUBLE_EQ(d.ESCALAX, 400 * 0.8 / 5);
-    EXPECT_DOUBLE_EQ(d.ESCALAY, 300 * 0.8 / 5);
+    EsperaEscalas(d, 400 * 0.8 / 5, 300 * 0.8 / 5);
     // The box (0, 0)-(5, 5) fills 80 % of the area, centred.
-    EXPECT_DOUBLE_EQ(e.X(0), 40);
-    EXPECT_DOUBLE_EQ(e.X(5), 360);
-    EXPECT_DOUBLE_EQ(e.Y(0), 270);
-    EXPECT_DOUBLE_EQ(e.Y(5), 30);
+    EsperaEnPixeles(e, 0, 0, 40, 270);
+    EsperaEnPixeles(e, 5, 5, 360, 30);
 }
 
 TEST(Ajusta, GuardaElTamanoDelAreaYLasEscalas)
@@ -139,12 +147,9 @@ TEST(Ajusta, GuardaElTamanoDelAreaYLasEscalas)
     GeneralDibujo d = ListaVacia();
     Eje(d, 0, 0, 10, 2);
     const Encuadre e = Ajusta(d, 440, 176, 0);
-    EXPECT_EQ(d.ANCHOPIC, 440);
-    EXPECT_EQ(d.ALTOPIC, 176);
-    EXPECT_DOUBLE_EQ(d.ESCALAX, 35.2);
-    EXPECT_DOUBLE_EQ(d.ESCALAY, 70.4);
-    EXPECT_EQ(e.escalaX, d.ESCALAX);
-    EXPECT_EQ(e.escalaY, d.ESCALAY);
+    EXPECT_EQ(std::tie(d.ANCHOPIC, d.ALTOPIC), std::tuple(440, 176));
+    EsperaEscalas(d, 35.2, 70.4);
+    EXPECT_EQ(std::tie(e.escalaX, e.escalaY), std::tie(d.ESCALAX, d.ESCALAY));
 }
 
 TEST(Ajusta, IsotropicoUnCuadradoQuedaCuadrado)
@@ -154,12 +159,10 @@ TEST(Ajusta, IsotropicoUnCuadradoQuedaCuadrado)
     const Encuadre e = Ajusta(d, 400, 300, 1);
     // A shape's two corners are both real: the box is (1, 1)-(3, 3), and the lesser factor,
     // 300 × 0.8 / 2, serves both directions.
-    EXPECT_DOUBLE_EQ(d.ESCALAX, 120);
-    EXPECT_DOUBLE_EQ(d.ESCALAY, 120);
+    EsperaEscalas(d, 120, 120);
     EXPECT_DOUBLE_EQ(e.X(3) - e.X(1), 240);
     EXPECT_DOUBLE_EQ(e.Y(1) - e.Y(3), 240);
-    EXPECT_DOUBLE_EQ(e.X(1), (400 - 2 * 120) / 2.0);
-    EXPECT_DOUBLE_EQ(e.Y(1), 300 - (300 - 2 * 120) / 2.0);
+    EsperaEnPixeles(e, 1, 1, (400 - 2 * 120) / 2.0, 300 - (300 - 2 * 120) / 2.0);
 }
 
 TEST(Ajusta, SinIsotropiaElCuadradoSeEstiraAlOchentaPorCiento)
@@ -176,10 +179,8 @@ TEST(Ajusta, IsotropicoConEscalaAnchoCeroTodoCaeEnElCentro)
     GeneralDibujo d = ListaVacia();
     Eje(d, 0, 0, 0, 4);
     const Encuadre e = Ajusta(d, 400, 300, 1);
-    EXPECT_EQ(d.ESCALAX, 0.0);
-    EXPECT_EQ(d.ESCALAY, 0.0);
-    EXPECT_DOUBLE_EQ(e.X(0), 200);
-    EXPECT_DOUBLE_EQ(e.Y(4), 150);
+    EXPECT_EQ(std::tie(d.ESCALAX, d.ESCALAY), std::tuple(0.0, 0.0));
+    EsperaEnPixeles(e, 0, 4, 200, 150);
     EXPECT_DOUBLE_EQ(e.Y(0), 150);
 }
 
@@ -188,8 +189,7 @@ TEST(Ajusta, CualquierOtroValorDeIsotropiaDejaLasEscalasIndependientes)
     GeneralDibujo d = ListaVacia();
     Eje(d, 0, 0, 4, 1);
     Ajusta(d, 400, 300, 2);
-    EXPECT_DOUBLE_EQ(d.ESCALAX, 80);
-    EXPECT_DOUBLE_EQ(d.ESCALAY, 240);
+    EsperaEscalas(d, 80, 240);
 }
 
 TEST(Ajusta, LaCajaTomaLosCamposDeTodasLasClasesYEmpiezaEnElElementoUno)
@@ -200,8 +200,7 @@ TEST(Ajusta, LaCajaTomaLosCamposDeTodasLasClasesYEmpiezaEnElElementoUno)
     const Encuadre e = Ajusta(d, 100, 100, 0);
     EXPECT_EQ(e.xmin, -2);
     EXPECT_EQ(e.ymin, 1);
-    EXPECT_DOUBLE_EQ(d.ESCALAX, 80.0 / 8);
-    EXPECT_DOUBLE_EQ(d.ESCALAY, 80.0 / 8);
+    EsperaEscalas(d, 80.0 / 8, 80.0 / 8);
 }
 
 TEST(Ajusta, EnElPapelLosMargenesDesplazanLaCaja)
@@ -216,8 +215,7 @@ TEST(Ajusta, EnElPapelLosMargenesDesplazanLaCaja)
     EXPECT_DOUBLE_EQ(d.ALTOPIC, 20);
     EXPECT_DOUBLE_EQ(e.ox, (15.5 - 10 * d.ESCALAX) / 2 + 1.5);
     EXPECT_DOUBLE_EQ(e.oy, (20 + 3) - (20 - 5 * d.ESCALAY) / 2);
-    EXPECT_DOUBLE_EQ(e.X(0), 1.5 + 15.5 * 0.1);
-    EXPECT_DOUBLE_EQ(e.Y(0), 3 + 20 * 0.9);
+    EsperaEnPixeles(e, 0, 0, 1.5 + 15.5 * 0.1, 3 + 20 * 0.9);
 }
 
 TEST(Ajusta, UnaListaQueNuncaSeCreoCabeEnUnPunto)
@@ -226,8 +224,7 @@ TEST(Ajusta, UnaListaQueNuncaSeCreoCabeEnUnPunto)
     const Encuadre e = Ajusta(d, 400, 300, 0);
     EXPECT_EQ(d.ESCALAX, 0.0);
     EXPECT_EQ(d.ESCALAY, 0.0);
-    EXPECT_DOUBLE_EQ(e.X(0), 200);
-    EXPECT_DOUBLE_EQ(e.Y(0), 150);
+    EsperaEnPixeles(e, 0, 0, 200, 150);
 }
 
 TEST(AjustaGuardado, UsaElTamanoGuardadoAunqueSeaDeCentimetros)
@@ -237,8 +234,7 @@ TEST(AjustaGuardado, UsaElTamanoGuardadoAunqueSeaDeCentimetros)
     d.ANCHOPIC = 8.5;
     d.ALTOPIC = 6.0;
     AjustaGuardado(d, 0);
-    EXPECT_DOUBLE_EQ(d.ESCALAX, 6.8);
-    EXPECT_DOUBLE_EQ(d.ESCALAY, 4.8);
+    EsperaEscalas(d, 6.8, 4.8);
     EXPECT_EQ(d.ANCHOPIC, 8.5);
 }
 
@@ -255,8 +251,7 @@ TEST(Encuadra, ElMismoAjusteSinGuardarNada)
     EXPECT_EQ(e.alto, 300.0);
     EXPECT_DOUBLE_EQ(e.escalaX, 32);
     EXPECT_DOUBLE_EQ(e.escalaY, 32);
-    EXPECT_DOUBLE_EQ(e.X(0), 40);
-    EXPECT_DOUBLE_EQ(e.Y(0), 230);
+    EsperaEnPixeles(e, 0, 0, 40, 230);
     // The drawing state is as it was: a picture drawn for a file leaves it so.
     EXPECT_EQ(d.ANCHOPIC, 17.0);
     EXPECT_EQ(d.ALTOPIC, 25.7);

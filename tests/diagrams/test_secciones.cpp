@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <tuple>
 
 namespace texalon {
 namespace {
@@ -40,6 +41,24 @@ void EsperaTexto(const GeneralDibujo& d, int i, Clase clase, double x, double y,
 void EsperaTitulo(const GeneralDibujo& d, int i, double x, double y)
 {
     EsperaTexto(d, i, Clase::Texto, x, y, "SECCION", 12, true);
+}
+
+// The column of width D and height m (elements 1 and 2): its concrete, then the sheet around it,
+// 2 % of D out on every side.
+void EsperaHormigonYLamina(const GeneralDibujo& d, Clase forma, double D, double m)
+{
+    EsperaForma(d, 1, forma, D * 0.02, D * 0.02 + m, D * 0.02 + D, D * 0.02, kHormigon);
+    EsperaForma(d, 2, forma, 0, D * 0.04 + m, D * 0.04 + D, 0, kLamina);
+}
+
+// The last four elements of the default section, from i: the sheet's width under it, the areas
+// of the bottom and the top steel inside it, and the title.
+void EsperaTextosFinales(const GeneralDibujo& d, int i, double b, double h, double r, double u)
+{
+    EsperaTexto(d, i, Clase::Texto, b / 2, -u / 5, "0,125");
+    EsperaTexto(d, i + 1, Clase::Texto, b / 2, u / 10 + r, "10,00 cm²");
+    EsperaTexto(d, i + 2, Clase::Texto, b / 2, h - r - u / 10, "5,00 cm²");
+    EsperaTitulo(d, i + 3, b / 2, u / 2 + h);
 }
 
 // A horizontal dimension at height y from xa to xb, its ticks from y1 to y2 (elements i to
@@ -80,20 +99,29 @@ General Columna(Entero seccion)
     return g;
 }
 
+// The drawing that `dibuja` makes of the state, with the fields that `cambia` changes.
+template <class Cambio>
+GeneralDibujo Dibujada(void (*dibuja)(const General&, GeneralDibujo&, char), char sep, General g, Cambio cambia)
+{
+    cambia(g);
+    GeneralDibujo d;
+    dibuja(g, d, sep);
+    return d;
+}
+
+GeneralDibujo Dibujada(void (*dibuja)(const General&, GeneralDibujo&, char), char sep, const General& g)
+{
+    return Dibujada(dibuja, sep, g, [](General&) {});
+}
+
 // ---- The rectangular section.
 
 TEST(DibujaSeccion, SeccionPorDefectoConAmbosAcerosEscribeVeintidosElementos)
 {
-    const General g = SeccionFlexion();
-    GeneralDibujo d;
-    DibujaSeccion(g, d, ',');
+    const GeneralDibujo d = Dibujada(DibujaSeccion, ',', SeccionFlexion());
 
-    const double b = 0.4;
-    const double h = 0.6;
-    const double r = 0.05;
-    const double u = 0.4;  // deeper than wide: the width
-    const double xa = (0.4 - 0.125) / 2;
-    const double xb = 0.4 - xa;
+    // u: deeper than wide: the width
+    const double b = 0.4, h = 0.6, r = 0.05, u = 0.4, xa = (0.4 - 0.125) / 2, xb = 0.4 - xa;
     ASSERT_EQ(d.NLISTA, 22);
     EsperaLinea(d, 1, 0, 0, 0, h);
     EsperaLinea(d, 2, 0, h, b, h);
@@ -107,10 +135,7 @@ TEST(DibujaSeccion, SeccionPorDefectoConAmbosAcerosEscribeVeintidosElementos)
     EsperaCotaHorizontal(d, 14, -u / 10, xa, xb, -u / 20, -u / 6.66666);
     EsperaTexto(d, 17, Clase::TextoIzquierda, -u / 5, h / 2, "0,60");
     EsperaTexto(d, 18, Clase::Texto, b / 2, u / 5 + h, "0,40");
-    EsperaTexto(d, 19, Clase::Texto, b / 2, -u / 5, "0,125");
-    EsperaTexto(d, 20, Clase::Texto, b / 2, u / 10 + r, "10,00 cm²");
-    EsperaTexto(d, 21, Clase::Texto, b / 2, h - r - u / 10, "5,00 cm²");
-    EsperaTitulo(d, 22, b / 2, u / 2 + h);
+    EsperaTextosFinales(d, 19, b, h, r, u);
 
     // The numbers at hand: 0.625 mm of drawing per cm².
     EXPECT_DOUBLE_EQ(Lee(d, 5).y1, 0.05625);
@@ -121,9 +146,7 @@ TEST(DibujaSeccion, SeccionPorDefectoConAmbosAcerosEscribeVeintidosElementos)
 
 TEST(DibujaSeccion, ConPuntoDecimalLosTextosLoUsan)
 {
-    const General g = SeccionFlexion();
-    GeneralDibujo d;
-    DibujaSeccion(g, d, '.');
+    const GeneralDibujo d = Dibujada(DibujaSeccion, '.', SeccionFlexion());
     ASSERT_EQ(d.NLISTA, 22);
     EXPECT_EQ(Lee(d, 17).texto, "0.60");
     EXPECT_EQ(Lee(d, 18).texto, "0.40");
@@ -134,15 +157,8 @@ TEST(DibujaSeccion, ConPuntoDecimalLosTextosLoUsan)
 
 TEST(DibujaSeccion, SinAceroInferiorNoHayBarraNiTextoYLaNumeracionSeCierra)
 {
-    General g = SeccionFlexion();
-    g.ASI = 0.0;
-    GeneralDibujo d;
-    DibujaSeccion(g, d, ',');
-    const double b = 0.4;
-    const double h = 0.6;
-    const double r = 0.05;
-    const double u = 0.4;
-    const double xa = (0.4 - 0.125) / 2;
+    const GeneralDibujo d = Dibujada(DibujaSeccion, ',', SeccionFlexion(), [](General& g) { g.ASI = 0.0; });
+    const double b = 0.4, h = 0.6, r = 0.05, u = 0.4, xa = (0.4 - 0.125) / 2;
     ASSERT_EQ(d.NLISTA, 20);
     EsperaForma(d, 5, Clase::Barra, u / 10, h - r, b - u / 10, h - r - Grueso(5), kAcero);
     EsperaForma(d, 6, Clase::Barra, xa, 0, b - xa, -u / 60, kLamina);
@@ -155,15 +171,8 @@ TEST(DibujaSeccion, SinAceroInferiorNoHayBarraNiTextoYLaNumeracionSeCierra)
 
 TEST(DibujaSeccion, SinAceroSuperiorNoHayBarraNiTextoYLaNumeracionSeCierra)
 {
-    General g = SeccionFlexion();
-    g.ASS = 0.0;
-    GeneralDibujo d;
-    DibujaSeccion(g, d, ',');
-    const double b = 0.4;
-    const double h = 0.6;
-    const double r = 0.05;
-    const double u = 0.4;
-    const double xa = (0.4 - 0.125) / 2;
+    const GeneralDibujo d = Dibujada(DibujaSeccion, ',', SeccionFlexion(), [](General& g) { g.ASS = 0.0; });
+    const double b = 0.4, h = 0.6, r = 0.05, u = 0.4, xa = (0.4 - 0.125) / 2;
     ASSERT_EQ(d.NLISTA, 20);
     EsperaForma(d, 5, Clase::Barra, u / 10, Grueso(10) + r, b - u / 10, r, kAcero);
     EsperaForma(d, 6, Clase::Barra, xa, 0, b - xa, -u / 60, kLamina);
@@ -175,11 +184,8 @@ TEST(DibujaSeccion, SinAceroSuperiorNoHayBarraNiTextoYLaNumeracionSeCierra)
 
 TEST(DibujaSeccion, SinNingunAceroQuedanDieciochoElementos)
 {
-    General g = SeccionFlexion();
-    g.ASI = 0.0;
-    g.ASS = 0.0;
-    GeneralDibujo d;
-    DibujaSeccion(g, d, ',');
+    const GeneralDibujo d =
+        Dibujada(DibujaSeccion, ',', SeccionFlexion(), [](General& g) { g.ASI = 0.0; g.ASS = 0.0; });
     ASSERT_EQ(d.NLISTA, 18);
     EXPECT_EQ(Lee(d, 5).color, kLamina);
     EXPECT_EQ(Lee(d, 17).texto, "0,125");
@@ -190,17 +196,9 @@ TEST(DibujaSeccion, SinNingunAceroQuedanDieciochoElementos)
 
 TEST(DibujaSeccion, RectanguloMasAnchoQueProfundoTomaElCantoComoReferencia)
 {
-    General g = SeccionFlexion();
-    g.ANCHO = 1.2;
-    g.CANTO = 0.3;
-    g.ANCHOR = 0.6;
-    GeneralDibujo d;
-    DibujaSeccion(g, d, ',');
-    const double b = 1.2;
-    const double h = 0.3;
-    const double r = 0.05;
-    const double u = 0.3;
-    const double xa = (1.2 - 0.6) / 2;
+    const GeneralDibujo d = Dibujada(DibujaSeccion, ',', SeccionFlexion(),
+                                     [](General& g) { g.ANCHO = 1.2; g.CANTO = 0.3; g.ANCHOR = 0.6; });
+    const double b = 1.2, h = 0.3, r = 0.05, u = 0.3, xa = (1.2 - 0.6) / 2;
     ASSERT_EQ(d.NLISTA, 22);
     EsperaForma(d, 5, Clase::Barra, u / 10, Grueso(10) + r, b - u / 10, r, kAcero);
     EsperaForma(d, 7, Clase::Barra, xa, 0, b - xa, -u / 60, kLamina);
@@ -217,13 +215,8 @@ TEST(DibujaSeccion, RectanguloMasAnchoQueProfundoTomaElCantoComoReferencia)
 
 TEST(DibujaSeccion, LaminaMasAnchaQueLaSeccionSobresaleAAmbosLados)
 {
-    General g = SeccionFlexion();
-    g.ANCHOR = 0.5;
-    GeneralDibujo d;
-    DibujaSeccion(g, d, ',');
-    const double u = 0.4;
-    const double xa = (0.4 - 0.5) / 2;
-    const double xb = 0.4 - xa;
+    const GeneralDibujo d = Dibujada(DibujaSeccion, ',', SeccionFlexion(), [](General& g) { g.ANCHOR = 0.5; });
+    const double u = 0.4, xa = (0.4 - 0.5) / 2, xb = 0.4 - xa;
     EXPECT_DOUBLE_EQ(xa, -0.05);
     EXPECT_DOUBLE_EQ(xb, 0.45);
     EsperaForma(d, 7, Clase::Barra, xa, 0, xb, -u / 60, kLamina);
@@ -235,11 +228,8 @@ TEST(DibujaSeccion, LaminaMasAnchaQueLaSeccionSobresaleAAmbosLados)
 
 TEST(DibujaSeccion, ElTituloEstaMediaReferenciaPorEncima)
 {
-    General g = SeccionFlexion();
-    g.ANCHO = 0.9;
-    g.CANTO = 0.45;
-    GeneralDibujo d;
-    DibujaSeccion(g, d, ',');
+    const GeneralDibujo d =
+        Dibujada(DibujaSeccion, ',', SeccionFlexion(), [](General& g) { g.ANCHO = 0.9; g.CANTO = 0.45; });
     const Elemento titulo = Lee(d, d.NLISTA);
     EXPECT_EQ(titulo.texto, "SECCION");
     EXPECT_DOUBLE_EQ(titulo.y1 - 0.45, 0.45 / 2);
@@ -254,14 +244,10 @@ TEST(DibujaSeccion, EnciendeSoloLaBanderaDeSeccionYSoloEscribeLaLista)
     for (int i = 0; i < 30; ++i)
         AnadePunto(d, 1.0, 1.0, 7);
     d.F_SECCION = false;
-    d.F_PIVOTES = true;
-    d.F_MOMENTOS = true;
-    d.F_CAPAS = true;
+    d.F_PIVOTES = d.F_MOMENTOS = d.F_CAPAS = true;
     DibujaSeccion(g, d, ',');
-    EXPECT_TRUE(d.F_SECCION);
-    EXPECT_FALSE(d.F_PIVOTES);
-    EXPECT_FALSE(d.F_MOMENTOS);
-    EXPECT_FALSE(d.F_CAPAS);
+    // Pivots, moments, section and layers.
+    EXPECT_EQ(prueba::Banderas(d), std::tuple(false, false, true, false));
     EXPECT_EQ(d.LISTA(23, campo::kClase), 0.0);
     EXPECT_EQ(d.LISTA(30, campo::kX1), 0.0);
     EXPECT_EQ(d.NLISTA, 22);
@@ -272,20 +258,10 @@ TEST(DibujaSeccion, EnciendeSoloLaBanderaDeSeccionYSoloEscribeLaLista)
 
 TEST(DibujaSeccionT, SeccionPorDefectoConAmbosAcerosEscribeTreintaYCuatroElementos)
 {
-    const General g = SeccionFlexion();
-    GeneralDibujo d;
-    DibujaSeccionT(g, d, ',');
+    const GeneralDibujo d = Dibujada(DibujaSeccionT, ',', SeccionFlexion());
 
-    const double b = 0.4;
-    const double h = 0.6;
-    const double r = 0.05;
-    const double bw = 0.2;
-    const double hf = 0.2;
-    const double u = 0.4;
-    const double xw = (b - bw) / 2;
-    const double xe = b - xw;
-    const double xa = (b - 0.125) / 2;
-    const double xb = b - xa;
+    const double b = 0.4, h = 0.6, r = 0.05, bw = 0.2, hf = 0.2, u = 0.4, xw = (b - bw) / 2, xe = b - xw,
+                 xa = (b - 0.125) / 2, xb = b - xa;
     ASSERT_EQ(d.NLISTA, 34);
     EsperaLinea(d, 1, 0, h - hf, 0, h);
     EsperaLinea(d, 2, 0, h, b, h);
@@ -307,10 +283,7 @@ TEST(DibujaSeccionT, SeccionPorDefectoConAmbosAcerosEscribeTreintaYCuatroElement
     EsperaTexto(d, 28, Clase::Texto, b / 2, u / 5 + h, "0,40");
     EsperaTexto(d, 29, Clase::TextoDerecha, u / 5 + b, h - hf / 2, "0,20");
     EsperaTexto(d, 30, Clase::Texto, b / 2, -u / 2 - u * 0.1, "0,20");
-    EsperaTexto(d, 31, Clase::Texto, b / 2, -u / 5, "0,125");
-    EsperaTexto(d, 32, Clase::Texto, b / 2, u / 10 + r, "10,00 cm²");
-    EsperaTexto(d, 33, Clase::Texto, b / 2, h - r - u / 10, "5,00 cm²");
-    EsperaTitulo(d, 34, b / 2, u / 2 + h);
+    EsperaTextosFinales(d, 31, b, h, r, u);
 
     // The web from 0.1 to 0.3, its steel 0.04 inside it.
     EXPECT_DOUBLE_EQ(Lee(d, 9).x1, 0.14);
@@ -321,14 +294,10 @@ TEST(DibujaSeccionT, LaMismaBanderaYSoloLaLista)
 {
     const General g = SeccionFlexion();
     GeneralDibujo d = prueba::DibujoEnUso();
-    d.F_PIVOTES = true;
-    d.F_MOMENTOS = true;
-    d.F_CAPAS = true;
+    d.F_PIVOTES = d.F_MOMENTOS = d.F_CAPAS = true;
     DibujaSeccionT(g, d, '.');
-    EXPECT_TRUE(d.F_SECCION);
-    EXPECT_FALSE(d.F_PIVOTES);
-    EXPECT_FALSE(d.F_MOMENTOS);
-    EXPECT_FALSE(d.F_CAPAS);
+    // Pivots, moments, section and layers.
+    EXPECT_EQ(prueba::Banderas(d), std::tuple(false, false, true, false));
     EXPECT_EQ(d.NLISTA, 34);
     prueba::EsperaSoloLaLista(d);
     EXPECT_EQ(Lee(d, 29).texto, "0.20");
@@ -337,24 +306,14 @@ TEST(DibujaSeccionT, LaMismaBanderaYSoloLaLista)
 
 TEST(DibujaSeccionT, AlmaMasAnchaQueElAlaSobresaleYDesplazaLaCotaDelCanto)
 {
-    General g = SeccionFlexion();
-    g.ANCHO = 0.3;
-    g.ANCHOALMA = 0.5;
-    g.CANTO = 0.6;
-    g.CANTOALA = 0.15;
-    g.ANCHOR = 0.2;
-    GeneralDibujo d;
-    DibujaSeccionT(g, d, ',');
+    // clang-format off
+    const GeneralDibujo d = Dibujada(DibujaSeccionT, ',', SeccionFlexion(), [](General& g) {
+        g.ANCHO = 0.3; g.ANCHOALMA = 0.5; g.CANTO = 0.6; g.CANTOALA = 0.15; g.ANCHOR = 0.2; });
+    // clang-format on
 
-    const double b = 0.3;
-    const double h = 0.6;
-    const double bw = 0.5;
-    const double hf = 0.15;
-    const double r = 0.05;
-    const double u = 0.5;  // the web, since the flange is not wider than it
-    const double xw = (b - bw) / 2;
-    const double xe = b - xw;
-    const double o = (bw - b) / 2;
+    // u: the web, since the flange is not wider than it
+    const double b = 0.3, h = 0.6, bw = 0.5, hf = 0.15, r = 0.05, u = 0.5, xw = (b - bw) / 2, xe = b - xw,
+                 o = (bw - b) / 2;
     EXPECT_DOUBLE_EQ(xw, -0.1);
     EXPECT_DOUBLE_EQ(o, 0.1);
     ASSERT_EQ(d.NLISTA, 34);
@@ -380,12 +339,8 @@ TEST(DibujaSeccionT, AlmaMasAnchaQueElAlaSobresaleYDesplazaLaCotaDelCanto)
 
 TEST(DibujaSeccionT, AlaIgualAlAlmaNoDesplazaLaCotaDelCanto)
 {
-    General g = SeccionFlexion();
-    g.ANCHO = 0.3;
-    g.ANCHOALMA = 0.3;
-    g.CANTO = 0.5;
-    GeneralDibujo d;
-    DibujaSeccionT(g, d, ',');
+    const GeneralDibujo d = Dibujada(DibujaSeccionT, ',', SeccionFlexion(),
+                                     [](General& g) { g.ANCHO = 0.3; g.ANCHOALMA = 0.3; g.CANTO = 0.5; });
     const double u = 0.3;
     EsperaCotaVertical(d, 12, -u / 10, 0, 0.5, -u / 6.66666, -u / 20);
     EsperaForma(d, 9, Clase::Barra, 0.0 + u / 10, Grueso(10) + 0.05, 0.3 - u / 10, 0.05, kAcero);
@@ -393,12 +348,8 @@ TEST(DibujaSeccionT, AlaIgualAlAlmaNoDesplazaLaCotaDelCanto)
 
 TEST(DibujaSeccionT, AlaMasAnchaQueProfundaTomaElCantoComoReferencia)
 {
-    General g = SeccionFlexion();
-    g.ANCHO = 1.0;
-    g.CANTO = 0.5;
-    g.ANCHOALMA = 0.3;
-    GeneralDibujo d;
-    DibujaSeccionT(g, d, ',');
+    const GeneralDibujo d = Dibujada(DibujaSeccionT, ',', SeccionFlexion(),
+                                     [](General& g) { g.ANCHO = 1.0; g.CANTO = 0.5; g.ANCHOALMA = 0.3; });
     const double u = 0.5;
     EsperaCotaVertical(d, 12, -u / 10, 0, 0.5, -u / 6.66666, -u / 20);
     EsperaForma(d, 11, Clase::Barra, (1.0 - 0.125) / 2, 0, 1.0 - (1.0 - 0.125) / 2, -u / 60, kLamina);
@@ -407,12 +358,8 @@ TEST(DibujaSeccionT, AlaMasAnchaQueProfundaTomaElCantoComoReferencia)
 
 TEST(DibujaSeccionT, SeccionMenosProfundaQueAnchaTomaElCantoAunqueElAlmaSeaMasAncha)
 {
-    General g = SeccionFlexion();
-    g.ANCHO = 1.0;
-    g.CANTO = 0.5;
-    g.ANCHOALMA = 1.2;
-    GeneralDibujo d;
-    DibujaSeccionT(g, d, ',');
+    const GeneralDibujo d = Dibujada(DibujaSeccionT, ',', SeccionFlexion(),
+                                     [](General& g) { g.ANCHO = 1.0; g.CANTO = 0.5; g.ANCHOALMA = 1.2; });
     const double u = 0.5;
     const double o = (1.2 - 1.0) / 2;
     EsperaCotaVertical(d, 12, -u / 10 - o, 0, 0.5, -u / 6.66666 - o, -u / 20 - o);
@@ -422,12 +369,8 @@ TEST(DibujaSeccionT, SeccionMenosProfundaQueAnchaTomaElCantoAunqueElAlmaSeaMasAn
 
 TEST(DibujaSeccionT, LaLaminaQuedaCentradaBajoElAlma)
 {
-    General g = SeccionFlexion();
-    g.ANCHO = 0.6;
-    g.ANCHOALMA = 0.2;
-    g.ANCHOR = 0.1;
-    GeneralDibujo d;
-    DibujaSeccionT(g, d, ',');
+    const GeneralDibujo d = Dibujada(DibujaSeccionT, ',', SeccionFlexion(),
+                                     [](General& g) { g.ANCHO = 0.6; g.ANCHOALMA = 0.2; g.ANCHOR = 0.1; });
     const Elemento lamina = Lee(d, 11);
     const Elemento alma = Lee(d, 21);  // the web width's dimension line
     ASSERT_EQ(lamina.color, kLamina);
@@ -442,11 +385,8 @@ TEST(DibujaSeccionT, LaLaminaQuedaCentradaBajoElAlma)
 
 TEST(DibujaSeccionT, SinAcerosLaNumeracionSeCierra)
 {
-    General g = SeccionFlexion();
-    g.ASI = 0.0;
-    g.ASS = 0.0;
-    GeneralDibujo d;
-    DibujaSeccionT(g, d, ',');
+    const GeneralDibujo d =
+        Dibujada(DibujaSeccionT, ',', SeccionFlexion(), [](General& g) { g.ASI = 0.0; g.ASS = 0.0; });
     ASSERT_EQ(d.NLISTA, 30);
     EsperaForma(d, 9, Clase::Barra, (0.4 - 0.125) / 2, 0, 0.4 - (0.4 - 0.125) / 2, -0.4 / 60, kLamina);
     EXPECT_EQ(Lee(d, 25).texto, "0,60");
@@ -462,13 +402,10 @@ TEST(DibujaSeccionT, SinAcerosLaNumeracionSeCierra)
 
 TEST(DibujaSeccionConfina, CirculoEscribeSieteElementos)
 {
-    const General g = Columna(1);
-    GeneralDibujo d;
-    DibujaSeccionConfina(g, d, ',');
-    const double D = 0.5;
+    const double D = 0.5;  // the default diameter
+    const GeneralDibujo d = Dibujada(DibujaSeccionConfina, ',', Columna(1));
     ASSERT_EQ(d.NLISTA, 7);
-    EsperaForma(d, 1, Clase::Elipse, D * 0.02, D * 0.02 + D, D * 0.02 + D, D * 0.02, kHormigon);
-    EsperaForma(d, 2, Clase::Elipse, 0, D * 0.04 + D, D * 0.04 + D, 0, kLamina);
+    EsperaHormigonYLamina(d, Clase::Elipse, D, D);
     EsperaCotaHorizontal(d, 3, -D / 10, D * 0.02, D * 0.02 + D, -D / 20, -D / 6.66666);
     EsperaTexto(d, 6, Clase::Texto, D / 2, -D / 5, "0,50");
     EsperaTitulo(d, 7, D / 2, D / 3 + D);
@@ -478,10 +415,7 @@ TEST(DibujaSeccionConfina, CirculoEscribeSieteElementos)
 
 TEST(DibujaSeccionConfina, CirculoNoLlevaRadioMinimo)
 {
-    General g = Columna(1);
-    g.DIAM = 0.8;
-    GeneralDibujo d;
-    DibujaSeccionConfina(g, d, '.');
+    const GeneralDibujo d = Dibujada(DibujaSeccionConfina, '.', Columna(1), [](General& g) { g.DIAM = 0.8; });
     ASSERT_EQ(d.NLISTA, 7);
     for (int i = 1; i <= d.NLISTA; ++i)
         EXPECT_EQ(Lee(d, i).texto.find("Rmín"), std::string::npos) << "elemento " << i;
@@ -490,13 +424,10 @@ TEST(DibujaSeccionConfina, CirculoNoLlevaRadioMinimo)
 
 TEST(DibujaSeccionConfina, CuadradoEscribeDoceElementosConDosVecesElLado)
 {
-    const General g = Columna(2);
-    GeneralDibujo d;
-    DibujaSeccionConfina(g, d, ',');
+    const GeneralDibujo d = Dibujada(DibujaSeccionConfina, ',', Columna(2));
     const double D = 0.5;
     ASSERT_EQ(d.NLISTA, 12);
-    EsperaForma(d, 1, Clase::RectanguloRedondeado, D * 0.02, D * 0.02 + D, D * 0.02 + D, D * 0.02, kHormigon);
-    EsperaForma(d, 2, Clase::RectanguloRedondeado, 0, D * 0.04 + D, D * 0.04 + D, 0, kLamina);
+    EsperaHormigonYLamina(d, Clase::RectanguloRedondeado, D, D);
     EsperaCotaVertical(d, 3, -D / 10, D * 0.02, D * 0.02 + D, -D / 6.66666, -D / 20);
     EsperaCotaHorizontal(d, 6, -D / 10, D * 0.02, D * 0.02 + D, -D / 20, -D / 6.66666);
     EsperaTexto(d, 9, Clase::Texto, D / 2, -D / 5, "0,50");
@@ -508,14 +439,10 @@ TEST(DibujaSeccionConfina, CuadradoEscribeDoceElementosConDosVecesElLado)
 
 TEST(DibujaSeccionConfina, RectanguloMuestraElLadoMenorAlLadoYElMayorDebajo)
 {
-    const General g = Columna(3);
-    GeneralDibujo d;
-    DibujaSeccionConfina(g, d, ',');
-    const double D = 0.5;
-    const double m = 0.4;
+    const GeneralDibujo d = Dibujada(DibujaSeccionConfina, ',', Columna(3));
+    const double D = 0.5, m = 0.4;
     ASSERT_EQ(d.NLISTA, 12);
-    EsperaForma(d, 1, Clase::RectanguloRedondeado, D * 0.02, D * 0.02 + m, D * 0.02 + D, D * 0.02, kHormigon);
-    EsperaForma(d, 2, Clase::RectanguloRedondeado, 0, D * 0.04 + m, D * 0.04 + D, 0, kLamina);
+    EsperaHormigonYLamina(d, Clase::RectanguloRedondeado, D, m);
     EsperaCotaVertical(d, 3, -D / 10, D * 0.02, D * 0.02 + m, -D / 6.66666, -D / 20);
     EsperaCotaHorizontal(d, 6, -D / 10, D * 0.02, D * 0.02 + D, -D / 20, -D / 6.66666);
     EsperaTexto(d, 9, Clase::TextoIzquierda, -D / 5, m / 2, "0,40");
@@ -526,11 +453,8 @@ TEST(DibujaSeccionConfina, RectanguloMuestraElLadoMenorAlLadoYElMayorDebajo)
 
 TEST(DibujaSeccionConfina, ElTituloEstaUnTercioDeLaAlturaPorEncima)
 {
-    General g = Columna(3);
-    g.DIAM = 0.9;
-    g.LADOMENOR = 0.3;
-    GeneralDibujo d;
-    DibujaSeccionConfina(g, d, '.');
+    const GeneralDibujo d =
+        Dibujada(DibujaSeccionConfina, '.', Columna(3), [](General& g) { g.DIAM = 0.9; g.LADOMENOR = 0.3; });
     ASSERT_EQ(d.NLISTA, 12);
     const Elemento titulo = Lee(d, 12);
     EXPECT_DOUBLE_EQ(titulo.y1 - 0.3, 0.3 / 3);
@@ -547,10 +471,8 @@ TEST(DibujaSeccionConfina, EnciendeLaBanderaDeSeccionSinTocarLasDemas)
     d.F_MOMENTOS = false;
     d.F_CAPAS = true;
     DibujaSeccionConfina(g, d, ',');
-    EXPECT_TRUE(d.F_SECCION);
-    EXPECT_TRUE(d.F_PIVOTES);
-    EXPECT_FALSE(d.F_MOMENTOS);
-    EXPECT_TRUE(d.F_CAPAS);
+    // Pivots, moments, section and layers.
+    EXPECT_EQ(prueba::Banderas(d), std::tuple(true, false, true, true));
     EXPECT_EQ(d.NLISTA, 12);
     prueba::EsperaSoloLaLista(d);
 }

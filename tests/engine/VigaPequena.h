@@ -6,16 +6,13 @@
 
 #include "state/General.h"
 
+#include <tuple>
+
 namespace texalon {
 
 inline void HazVigaPequenaLlenaDeAcero(General& g)
 {
-    g.ANCHO = 0.2;
-    g.CANTO = 0.2;
-    g.ASI = 40.0;
-    g.FCK = 25.0;
-    g.ANCHOR = 0.05;
-    g.MCP = 80.0;
+    std::tie(g.ANCHO, g.CANTO, g.ASI, g.FCK, g.ANCHOR, g.MCP) = std::tuple(0.2, 0.2, 40.0, 25.0, 0.05, 80.0);
 }
 
 }  // namespace texalon

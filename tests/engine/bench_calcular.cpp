@@ -7,40 +7,27 @@
 namespace texalon {
 namespace {
 
-General ProyectoPorDefecto()
+// The start values with a few fields changed.
+template <class Cambio>
+General ProyectoCon(Cambio cambia)
 {
     General g;
     ValoresIniciales(g);
+    cambia(g);
     return g;
 }
 
-void CalculoFlexionRectangular(benchmark::State& estado)
+// One whole Calculate of a project of that kind (1 rectangular, 2 T, or the column's form),
+// over and over.
+void Calculo(benchmark::State& estado, General g, bool flexion, Entero clase)
 {
-    General g = ProyectoPorDefecto();
-    g.MCP = 50.0;
     for (auto _ : estado)
-        benchmark::DoNotOptimize(CalculaFlexion(g, 1, nullptr));
+        benchmark::DoNotOptimize(flexion ? CalculaFlexion(g, clase, nullptr) : CalculaConfinamiento(g, clase, nullptr));
 }
-BENCHMARK(CalculoFlexionRectangular);
 
-void CalculoFlexionT(benchmark::State& estado)
-{
-    General g = ProyectoPorDefecto();
-    g.CANTOALA = 0.05;
-    g.MCP = 50.0;
-    for (auto _ : estado)
-        benchmark::DoNotOptimize(CalculaFlexion(g, 2, nullptr));
-}
-BENCHMARK(CalculoFlexionT);
-
-void CalculoConfinamiento(benchmark::State& estado)
-{
-    General g = ProyectoPorDefecto();
-    g.NCP = 1000.0;
-    for (auto _ : estado)
-        benchmark::DoNotOptimize(CalculaConfinamiento(g, 1, nullptr));
-}
-BENCHMARK(CalculoConfinamiento);
+BENCHMARK_CAPTURE(Calculo, FlexionRectangular, ProyectoCon([](General& g) { g.MCP = 50.0; }), true, 1);
+BENCHMARK_CAPTURE(Calculo, FlexionT, ProyectoCon([](General& g) { g.CANTOALA = 0.05; g.MCP = 50.0; }), true, 2);
+BENCHMARK_CAPTURE(Calculo, Confinamiento, ProyectoCon([](General& g) { g.NCP = 1000.0; }), false, 1);
 
 }  // namespace
 }  // namespace texalon

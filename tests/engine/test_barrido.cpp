@@ -9,6 +9,7 @@
 
 #include <cmath>
 #include <initializer_list>
+#include <tuple>
 
 namespace texalon {
 namespace {
@@ -38,13 +39,8 @@ TEST(Barrido, TodasLasBusquedasDeFlexionTerminan)
                             for (double fck : {15.0, 50.0})
                                 for (double fyk : {300.0, 600.0}) {
                                     ValoresFlexion(g);
-                                    g.ANCHO = ancho;
-                                    g.CANTO = canto;
-                                    g.RECUB = recub;
-                                    g.ASI = asi;
-                                    g.ASS = ass;
-                                    g.FCK = fck;
-                                    g.FYK = fyk;
+                                    std::tie(g.ANCHO, g.CANTO, g.RECUB, g.ASI, g.ASS, g.FCK, g.FYK) =
+                                        std::tuple(ancho, canto, recub, asi, ass, fck, fyk);
                                     g.ANCHOR = ancho / 2.0 < 0.01 ? 0.01 : ancho / 2.0;
                                     g.ANCHOALMA = ancho / 2.0 < 0.01 ? 0.01 : ancho / 2.0;
                                     g.CANTOALA = canto / 5.0 < 0.01 ? 0.01 : canto / 5.0;
@@ -67,9 +63,7 @@ TEST(Barrido, CoeficientesYMomentosExtremos)
             for (double anchor : {0.01, 0.125, 0.4})
                 for (Entero seccion : {kSeccionRectangular, kSeccionT}) {
                     ValoresFlexion(g);
-                    g.GC = coeficiente;
-                    g.GS = coeficiente;
-                    g.GR = coeficiente;
+                    g.GC = g.GS = g.GR = coeficiente;
                     g.MCP = mcp;
                     g.ANCHOR = anchor;
                     if (!CalculaFlexion(g, seccion, nullptr).predeformacionExcesiva) CompruebaFlexion(g);

@@ -28,13 +28,19 @@ ResultadoCalculo Flexion(General& g, Entero seccion = kSeccionRectangular)
     return CalculaFlexion(g, seccion, nullptr);
 }
 
+// The verdict of a Calculate and the letter that the screen shows for it.
+void EsperaVeredicto(const ResultadoCalculo& r, Veredicto veredicto, const std::string& letrero)
+{
+    EXPECT_EQ(r.veredicto, veredicto);
+    EXPECT_EQ(TextoVeredicto(r.veredicto), letrero);
+}
+
 TEST(CalculaFlexion, ProyectoPorDefectoNoNecesitaRefuerzo)
 {
     General g = Proyecto();
     const ResultadoCalculo r = Flexion(g);
     EXPECT_FALSE(r.predeformacionExcesiva);
-    EXPECT_EQ(r.veredicto, Veredicto::NoEsNecesario);
-    EXPECT_EQ(TextoVeredicto(r.veredicto), " NO ES NECESARIO REFORZAR LA SECCION ");
+    EsperaVeredicto(r, Veredicto::NoEsNecesario, " NO ES NECESARIO REFORZAR LA SECCION ");
     EXPECT_TRUE(g.F_CALCULADO);
     EXPECT_TRUE(g.F_CALCULANDO);
     EXPECT_EQ(A2(g.MUSR), "222.45");
@@ -47,8 +53,7 @@ TEST(CalculaFlexion, MomentoDe230DejaElLetreroOculto)
     General g = Proyecto();
     g.MD = 230.0;
     const ResultadoCalculo r = Flexion(g);
-    EXPECT_EQ(r.veredicto, Veredicto::Oculto);
-    EXPECT_EQ(TextoVeredicto(r.veredicto), "");
+    EsperaVeredicto(r, Veredicto::Oculto, "");
     EXPECT_EQ(A2(g.MUSR), "222.45");
     EXPECT_EQ(A2(g.MUMAX), "294.87");
     // The cells that meet the moment: all of L and H, rows 1 and 2 of X.
@@ -64,8 +69,7 @@ TEST(CalculaFlexion, MomentoDe300NoSePuedeReforzar)
     General g = Proyecto();
     g.MD = 300.0;
     const ResultadoCalculo r = Flexion(g);
-    EXPECT_EQ(r.veredicto, Veredicto::NoSePuede);
-    EXPECT_EQ(TextoVeredicto(r.veredicto), " NO SE PUEDE REFORZAR LA SECCION ");
+    EsperaVeredicto(r, Veredicto::NoSePuede, " NO SE PUEDE REFORZAR LA SECCION ");
     EXPECT_TRUE(g.F_CALCULADO);
     EXPECT_GT(g.MU(1, 1), 0.0);
 }
@@ -250,8 +254,7 @@ TEST(CalculaConfinamiento, IncrementoDosNoSePuedeReforzarConLaTablaLlena)
     General g = Proyecto();
     g.INCR = 2.0;
     const ResultadoCalculo r = CalculaConfinamiento(g, g.SECCION, nullptr);
-    EXPECT_EQ(r.veredicto, Veredicto::NoSePuede);
-    EXPECT_EQ(TextoVeredicto(r.veredicto), " NO SE PUEDE REFORZAR LA SECCION ");
+    EsperaVeredicto(r, Veredicto::NoSePuede, " NO SE PUEDE REFORZAR LA SECCION ");
     for (int t = 1; t <= 3; ++t)
         for (int n = 1; n <= 5; ++n) {
             EXPECT_GT(g.RESU(t, n), 1.0);

@@ -33,6 +33,21 @@ General ProyectoPorDefecto()
     return g;
 }
 
+// The depth of the neutral axis and the inertia of a cracked section, to the decimals of the
+// reference.
+void EsperaEjeEInercia(const SeccionFisurada& f, const char* x, const char* inercia)
+{
+    EXPECT_EQ(A(f.X, 6), x);
+    EXPECT_EQ(A(f.I, 8), inercia);
+}
+
+// The initial strain that the section gets, to the decimals of the reference.
+void EsperaPredeformacion(General& g, Entero seccion, const char* eps0)
+{
+    Predeformacion(g, seccion);
+    EXPECT_EQ(A(g.EPS0, 8), eps0);
+}
+
 void Rectangular(General& g, Entero tipo)
 {
     RoturaRectangular(g, g.ANCHO, g.CANTO, g.RECUB, g.ASI, g.ASS, g.ANCHOR, g.FCK, g.FYK, g.EPS0, g.MD, tipo);
@@ -52,10 +67,8 @@ TEST(Predeformacion, SeccionPorDefectoConMcpCien)
     const SeccionFisurada f = AnalisisElastico(g, kSeccionRectangular);
     EXPECT_EQ(A(f.EC, 2), "27264.04");
     EXPECT_EQ(A(f.N, 5), "7.33567");
-    EXPECT_EQ(A(f.X, 6), "0.124872");
-    EXPECT_EQ(A(f.I, 8), "0.00158542");
-    Predeformacion(g, kSeccionRectangular);
-    EXPECT_EQ(A(g.EPS0, 8), "0.00109920");
+    EsperaEjeEInercia(f, "0.124872", "0.00158542");
+    EsperaPredeformacion(g, kSeccionRectangular, "0.00109920");
 }
 
 TEST(Predeformacion, SeccionTConElEjeEnElAlma)
@@ -65,11 +78,8 @@ TEST(Predeformacion, SeccionTConElEjeEnElAlma)
     g.MCP = 100.0;
     // The rectangular depth exceeds the flange, so the axis is sought again with the web.
     EXPECT_GT(AnalisisElastico(g, kSeccionRectangular).X, g.CANTOALA);
-    const SeccionFisurada f = AnalisisElastico(g, kSeccionT);
-    EXPECT_EQ(A(f.X, 6), "0.137730");
-    EXPECT_EQ(A(f.I, 8), "0.00155016");
-    Predeformacion(g, kSeccionT);
-    EXPECT_EQ(A(g.EPS0, 8), "0.00109378");
+    EsperaEjeEInercia(AnalisisElastico(g, kSeccionT), "0.137730", "0.00155016");
+    EsperaPredeformacion(g, kSeccionT, "0.00109378");
 }
 
 TEST(Predeformacion, SeccionTConElEjeEnElAlmaYArmaduraSuperiorPorLosMomentosEstaticos)

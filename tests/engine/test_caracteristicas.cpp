@@ -9,6 +9,8 @@
 
 #include <gtest/gtest.h>
 
+#include <tuple>
+
 namespace texalon {
 namespace {
 
@@ -17,6 +19,13 @@ General Proyecto()
     General g;
     ValoresIniciales(g);
     return g;
+}
+
+// The texts of a flexure cell in one tuple, in the order of its fields: a cell compares with the
+// expected one in a single expectation that prints every text.
+auto TextosDeCelda(const ResultadosCeldaFlexion& c)
+{
+    return std::tie(c.tipo, c.MUSR, c.EPS0, c.MRB, c.MLIMCR, c.PIVOTE, c.FN, c.EPSC, c.EPSSI, c.EPSSS, c.EPSR, c.MU);
 }
 
 General FlexionCalculada(double md = 0.0)
@@ -96,27 +105,20 @@ TEST(ResultadosFlexion, CeldaTipoUnoUnaCapa)
 {
     const General g = FlexionCalculada();
     const ResultadosCeldaFlexion r = ResultadosFlexion(g, 1, 1, ',');
-    EXPECT_EQ(r.tipo, "Refuerzo tipo TEXALON L - Núm. capas: 1");
-    EXPECT_EQ(r.MUSR, "222,5");
-    EXPECT_EQ(r.EPS0, "0,00");
-    EXPECT_EQ(r.MU, "238,5");
-    EXPECT_EQ(r.MRB, "366,6");
-    EXPECT_EQ(r.MLIMCR, "692,4");
-    EXPECT_EQ(r.PIVOTE, "R");
-    EXPECT_EQ(r.FN, "0,103");
-    EXPECT_EQ(r.EPSC, "1,99");
-    EXPECT_EQ(r.EPSSI, "8,67");
-    EXPECT_EQ(r.EPSSS, "1,02");
-    EXPECT_EQ(r.EPSR, "9,64");
+    // clang-format off
+    const ResultadosCeldaFlexion esperada{
+        .tipo = "Refuerzo tipo TEXALON L - Núm. capas: 1", .MUSR = "222,5", .EPS0 = "0,00",
+        .MRB = "366,6", .MLIMCR = "692,4", .PIVOTE = "R", .FN = "0,103",
+        .EPSC = "1,99", .EPSSI = "8,67", .EPSSS = "1,02", .EPSR = "9,64", .MU = "238,5"};
+    // clang-format on
+    EXPECT_EQ(TextosDeCelda(r), TextosDeCelda(esperada));
 }
 
 TEST(ResultadosFlexion, CeldaSinMejoraDaTresGuionesSalvoLosDeLaSeccion)
 {
     const General g = FlexionCalculada();
     const ResultadosCeldaFlexion r = ResultadosFlexion(g, 3, 4, '.');
-    EXPECT_EQ(r.tipo, "Refuerzo tipo TEXALON X - Núm. capas: 4");
-    EXPECT_EQ(r.MUSR, "222.5");
-    EXPECT_EQ(r.EPS0, "0.00");
+    EXPECT_EQ(std::tie(r.tipo, r.MUSR, r.EPS0), std::tuple("Refuerzo tipo TEXALON X - Núm. capas: 4", "222.5", "0.00"));
     for (const std::string* campo : {&r.MRB, &r.MLIMCR, &r.PIVOTE, &r.FN, &r.EPSC, &r.EPSSI, &r.EPSSS, &r.EPSR, &r.MU})
         EXPECT_EQ(*campo, "---");
 }
@@ -161,8 +163,7 @@ TEST(ResultadosConfina, CadaCampoEnSuFormato)
     EXPECT_EQ(r.tipo, "Refuerzo tipo TEXALON L - Núm. capas: 1");
     // EPS0 0.00018148 in thousandths.
     EXPECT_EQ(r.EPS0, "0,18");
-    EXPECT_EQ(r.WC, "0,196350");
-    EXPECT_EQ(r.WR, "0,000174");
+    EXPECT_EQ(std::tie(r.WC, r.WR), std::tuple("0,196350", "0,000174"));
     EXPECT_EQ(r.WWD, Formato(g.WWD(1, 1), "0.000000", ','));
     EXPECT_EQ(r.WWD.substr(0, 6), "0,0118");
     EXPECT_EQ(r.EPSR, Formato(g.EPSRC(1, 1) * 1000.0, "0.00", ','));
@@ -175,9 +176,7 @@ TEST(ResultadosConfina, ElTipoYLasCapasDeLaCelda)
 {
     const General g = ConfinamientoCalculado();
     const ResultadosCeldaConfina r = ResultadosConfina(g, 3, 5, '.');
-    EXPECT_EQ(r.tipo, "Refuerzo tipo TEXALON X - Núm. capas: 5");
-    EXPECT_EQ(r.RESU, "1.38");
-    EXPECT_EQ(r.EPS0, "0.00");
+    EXPECT_EQ(std::tie(r.tipo, r.RESU, r.EPS0), std::tuple("Refuerzo tipo TEXALON X - Núm. capas: 5", "1.38", "0.00"));
 }
 
 TEST(CargaCaracteristicas, TipoUnoConLosCoeficientesPorDefecto)

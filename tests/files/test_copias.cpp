@@ -88,6 +88,22 @@ bool AceptaConfina(const TextosConfina& textos, int indice_seccion = 2)
     return !g.F_ERROR;
 }
 
+// The texts of one field that the copy takes, and those that it refuses: the field set to each
+// in turn over the start texts.
+void EsperaLimites(CopiaDeFlexion copia, CampoFlexion campo, std::initializer_list<const char*> aceptados,
+                   std::initializer_list<const char*> rechazados)
+{
+    for (const char* texto : aceptados) EXPECT_TRUE(Acepta(copia, FlexionCon({{campo, texto}}))) << texto;
+    for (const char* texto : rechazados) EXPECT_FALSE(Acepta(copia, FlexionCon({{campo, texto}}))) << texto;
+}
+
+void EsperaLimitesConfina(CampoConfina campo, std::initializer_list<const char*> aceptados,
+                          std::initializer_list<const char*> rechazados)
+{
+    for (const char* texto : aceptados) EXPECT_TRUE(AceptaConfina(ConfinaCon({{campo, texto}}))) << texto;
+    for (const char* texto : rechazados) EXPECT_FALSE(AceptaConfina(ConfinaCon({{campo, texto}}))) << texto;
+}
+
 struct NombreCampo {
     const char* nombre;
     CampoFlexion campo;
@@ -127,16 +143,8 @@ TEST_P(AmbasFlexiones, LosValoresInicialesSeGuardan)
 {
     const General g = Copiada(FlexionInicial());
     EXPECT_FALSE(g.F_ERROR);
-    EXPECT_EQ(g.ANCHO, 0.4);
-    EXPECT_EQ(g.CANTO, 0.6);
-    EXPECT_EQ(g.RECUB, 0.05);
-    EXPECT_EQ(g.ASI, 10.0);
-    EXPECT_EQ(g.ASS, 0.0);
-    EXPECT_EQ(g.FCK, 25.0);
-    EXPECT_EQ(g.FYK, 500.0);
-    EXPECT_EQ(g.ANCHOR, 0.125);
-    EXPECT_EQ(g.MCP, 0.0);
-    EXPECT_EQ(g.MD, 0.0);
+    prueba::EsperaCampos(g, {{"ANCHO", 0.4}, {"CANTO", 0.6}, {"RECUB", 0.05}, {"ASI", 10.0}, {"ASS", 0.0},
+                             {"FCK", 25.0}, {"FYK", 500.0}, {"ANCHOR", 0.125}, {"MCP", 0.0}, {"MD", 0.0}});
 }
 
 TEST_P(AmbasFlexiones, ComaYPuntoDanElMismoValor)
@@ -155,10 +163,7 @@ TEST_P(AmbasFlexiones, SeGuardaElValorSinSigno)
                                           {&TextosFlexion::MCP, "-12,5"},
                                           {&TextosFlexion::MD, "-150"}}));
     EXPECT_FALSE(g.F_ERROR);
-    EXPECT_EQ(g.ANCHO, 0.4);
-    EXPECT_EQ(g.FCK, 30.0);
-    EXPECT_EQ(g.MCP, 12.5);
-    EXPECT_EQ(g.MD, 150.0);
+    prueba::EsperaCampos(g, {{"ANCHO", 0.4}, {"FCK", 30.0}, {"MCP", 12.5}, {"MD", 150.0}});
 }
 
 // The sign goes before the checks: a negative width is a positive one to them, so the sheet fits.
@@ -223,38 +228,24 @@ TEST_P(AmbasFlexiones, AssMcpYMdPuedenSerCero)
     const General g =
         Copiada(FlexionCon({{&TextosFlexion::ASS, "0"}, {&TextosFlexion::MCP, "0,000"}, {&TextosFlexion::MD, "-0"}}));
     EXPECT_FALSE(g.F_ERROR);
-    EXPECT_EQ(g.ASS, 0.0);
-    EXPECT_EQ(g.MCP, 0.0);
-    EXPECT_EQ(g.MD, 0.0);
+    prueba::EsperaCampos(g, {{"ASS", 0.0}, {"MCP", 0.0}, {"MD", 0.0}});
 }
 
 TEST_P(AmbasFlexiones, FckDe15A50AmbosIncluidos)
 {
-    EXPECT_FALSE(Acepta(FlexionCon({{&TextosFlexion::FCK, "14,99"}})));
-    EXPECT_TRUE(Acepta(FlexionCon({{&TextosFlexion::FCK, "15"}})));
-    EXPECT_TRUE(Acepta(FlexionCon({{&TextosFlexion::FCK, "15,01"}})));
-    EXPECT_TRUE(Acepta(FlexionCon({{&TextosFlexion::FCK, "49.99"}})));
-    EXPECT_TRUE(Acepta(FlexionCon({{&TextosFlexion::FCK, "50"}})));
-    EXPECT_FALSE(Acepta(FlexionCon({{&TextosFlexion::FCK, "50,01"}})));
+    EsperaLimites(Copia(), &TextosFlexion::FCK, {"15", "15,01", "49.99", "50"}, {"14,99", "50,01"});
     EXPECT_EQ(Copiada(FlexionCon({{&TextosFlexion::FCK, "50"}})).FCK, 50.0);
 }
 
 TEST_P(AmbasFlexiones, FykDe300A600AmbosIncluidos)
 {
-    EXPECT_FALSE(Acepta(FlexionCon({{&TextosFlexion::FYK, "299,99"}})));
-    EXPECT_TRUE(Acepta(FlexionCon({{&TextosFlexion::FYK, "300"}})));
-    EXPECT_TRUE(Acepta(FlexionCon({{&TextosFlexion::FYK, "300,01"}})));
-    EXPECT_TRUE(Acepta(FlexionCon({{&TextosFlexion::FYK, "599.99"}})));
-    EXPECT_TRUE(Acepta(FlexionCon({{&TextosFlexion::FYK, "600"}})));
-    EXPECT_FALSE(Acepta(FlexionCon({{&TextosFlexion::FYK, "600,01"}})));
+    EsperaLimites(Copia(), &TextosFlexion::FYK, {"300", "300,01", "599.99", "600"}, {"299,99", "600,01"});
     EXPECT_EQ(Copiada(FlexionCon({{&TextosFlexion::FYK, "300"}})).FYK, 300.0);
 }
 
 TEST_P(AmbasFlexiones, ElRecubrimientoHastaMedioCanto)
 {
-    EXPECT_TRUE(Acepta(FlexionCon({{&TextosFlexion::RECUB, "0,299"}})));
-    EXPECT_TRUE(Acepta(FlexionCon({{&TextosFlexion::RECUB, "0,300"}})));
-    EXPECT_FALSE(Acepta(FlexionCon({{&TextosFlexion::RECUB, "0,301"}})));
+    EsperaLimites(Copia(), &TextosFlexion::RECUB, {"0,299", "0,300"}, {"0,301"});
     EXPECT_EQ(Copiada(FlexionCon({{&TextosFlexion::RECUB, "0.3"}})).RECUB, 0.3);
 }
 
@@ -280,16 +271,8 @@ TEST_P(AmbasFlexiones, NoTocaCoeficientesNiDatosDeConfinamiento)
     const General ajeno = EstadoAjeno();
     const General g = Copiada(FlexionInicial());
     EXPECT_FALSE(g.F_ERROR);
-    EXPECT_EQ(g.GC, ajeno.GC);
-    EXPECT_EQ(g.GS, ajeno.GS);
-    EXPECT_EQ(g.GR, ajeno.GR);
-    EXPECT_EQ(g.NU, ajeno.NU);
-    EXPECT_EQ(g.EPS0, ajeno.EPS0);
-    EXPECT_EQ(g.SECCION, ajeno.SECCION);
-    EXPECT_EQ(g.DIAM, ajeno.DIAM);
-    EXPECT_EQ(g.LADOMENOR, ajeno.LADOMENOR);
-    EXPECT_EQ(g.NCP, ajeno.NCP);
-    EXPECT_EQ(g.INCR, ajeno.INCR);
+    prueba::EsperaMismosCampos(g, ajeno,
+                               {"GC", "GS", "GR", "NU", "EPS0", "SECCION", "DIAM", "LADOMENOR", "NCP", "INCR"});
 }
 
 INSTANTIATE_TEST_SUITE_P(Copias, AmbasFlexiones,
@@ -315,9 +298,7 @@ TEST(CopiaFlexion, NoMiraElAnchoDelAlmaNiElCantoDelAla)
 
 TEST(CopiaFlexion, LaLaminaCabeEnElAncho)
 {
-    EXPECT_TRUE(Acepta(&CopiaFlexion, FlexionCon({{&TextosFlexion::ANCHOR, "0,399"}})));
-    EXPECT_TRUE(Acepta(&CopiaFlexion, FlexionCon({{&TextosFlexion::ANCHOR, "0,400"}})));
-    EXPECT_FALSE(Acepta(&CopiaFlexion, FlexionCon({{&TextosFlexion::ANCHOR, "0,401"}})));
+    EsperaLimites(&CopiaFlexion, &TextosFlexion::ANCHOR, {"0,399", "0,400"}, {"0,401"});
     EXPECT_EQ(CopiaSobreAjeno(&CopiaFlexion, FlexionCon({{&TextosFlexion::ANCHOR, "0.4"}})).ANCHOR, 0.4);
 }
 
@@ -336,18 +317,9 @@ TEST(CopiaFlexionT, GuardaLosDoceValores)
 {
     const General g = CopiaSobreAjeno(&CopiaFlexionT, FlexionInicial());
     EXPECT_FALSE(g.F_ERROR);
-    EXPECT_EQ(g.ANCHO, 0.4);
-    EXPECT_EQ(g.CANTO, 0.6);
-    EXPECT_EQ(g.ANCHOALMA, 0.2);
-    EXPECT_EQ(g.CANTOALA, 0.2);
-    EXPECT_EQ(g.RECUB, 0.05);
-    EXPECT_EQ(g.ASI, 10.0);
-    EXPECT_EQ(g.ASS, 0.0);
-    EXPECT_EQ(g.FCK, 25.0);
-    EXPECT_EQ(g.FYK, 500.0);
-    EXPECT_EQ(g.ANCHOR, 0.125);
-    EXPECT_EQ(g.MCP, 0.0);
-    EXPECT_EQ(g.MD, 0.0);
+    prueba::EsperaCampos(g, {{"ANCHO", 0.4}, {"CANTO", 0.6}, {"ANCHOALMA", 0.2}, {"CANTOALA", 0.2}, {"RECUB", 0.05},
+                             {"ASI", 10.0}, {"ASS", 0.0}, {"FCK", 25.0}, {"FYK", 500.0}, {"ANCHOR", 0.125},
+                             {"MCP", 0.0}, {"MD", 0.0}});
 }
 
 TEST(CopiaFlexionT, ElAnchoDelAlmaYElCantoDelAlaSeLeen)
@@ -367,9 +339,7 @@ TEST(CopiaFlexionT, ElAnchoDelAlmaYElCantoDelAlaSeLeen)
 
 TEST(CopiaFlexionT, LaLaminaCabeEnElAlma)
 {
-    EXPECT_TRUE(Acepta(&CopiaFlexionT, FlexionCon({{&TextosFlexion::ANCHOR, "0,199"}})));
-    EXPECT_TRUE(Acepta(&CopiaFlexionT, FlexionCon({{&TextosFlexion::ANCHOR, "0,200"}})));
-    EXPECT_FALSE(Acepta(&CopiaFlexionT, FlexionCon({{&TextosFlexion::ANCHOR, "0,201"}})));
+    EsperaLimites(&CopiaFlexionT, &TextosFlexion::ANCHOR, {"0,199", "0,200"}, {"0,201"});
 }
 
 // For a T section the sheet is measured against the web alone, even a web wider than the flange.
@@ -382,9 +352,7 @@ TEST(CopiaFlexionT, ElAnchoDelAlaNoCuentaParaLaLamina)
 
 TEST(CopiaFlexionT, ElCantoDelAlaHastaElCanto)
 {
-    EXPECT_TRUE(Acepta(&CopiaFlexionT, FlexionCon({{&TextosFlexion::CANTOALA, "0,599"}})));
-    EXPECT_TRUE(Acepta(&CopiaFlexionT, FlexionCon({{&TextosFlexion::CANTOALA, "0,600"}})));
-    EXPECT_FALSE(Acepta(&CopiaFlexionT, FlexionCon({{&TextosFlexion::CANTOALA, "0,601"}})));
+    EsperaLimites(&CopiaFlexionT, &TextosFlexion::CANTOALA, {"0,599", "0,600"}, {"0,601"});
     EXPECT_EQ(CopiaSobreAjeno(&CopiaFlexionT, FlexionCon({{&TextosFlexion::CANTOALA, "0.6"}})).CANTOALA, 0.6);
 }
 
@@ -406,20 +374,9 @@ TEST(CopiaConfina, LosValoresSeGuardan)
     const General ajeno = EstadoAjeno();
     const General g = CopiaConfinaSobreAjeno(ConfinaInicial(), 2);
     EXPECT_FALSE(g.F_ERROR);
-    EXPECT_EQ(g.DIAM, 0.5);
-    EXPECT_EQ(g.LADOMENOR, 0.4);
-    EXPECT_EQ(g.FCK, 25.0);
-    EXPECT_EQ(g.NCP, 1200.0);
-    EXPECT_EQ(g.INCR, 1.0);
+    prueba::EsperaCampos(g, {{"DIAM", 0.5}, {"LADOMENOR", 0.4}, {"FCK", 25.0}, {"NCP", 1200.0}, {"INCR", 1.0}});
     // Nothing else: not the section kind, the coefficients, nor the flexure fields.
-    EXPECT_EQ(g.SECCION, ajeno.SECCION);
-    EXPECT_EQ(g.GC, ajeno.GC);
-    EXPECT_EQ(g.GS, ajeno.GS);
-    EXPECT_EQ(g.GR, ajeno.GR);
-    EXPECT_EQ(g.NU, ajeno.NU);
-    EXPECT_EQ(g.FYK, ajeno.FYK);
-    EXPECT_EQ(g.ANCHO, ajeno.ANCHO);
-    EXPECT_EQ(g.MD, ajeno.MD);
+    prueba::EsperaMismosCampos(g, ajeno, {"SECCION", "GC", "GS", "GR", "NU", "FYK", "ANCHO", "MD"});
 }
 
 TEST(CopiaConfina, LaSeccionNoSeCopiaDeLaLista)
@@ -440,10 +397,7 @@ TEST(CopiaConfina, ComaPuntoSignoYBlancos)
                                                          {&TextosConfina::INCR, "\t-1,25"}}),
                                              2);
     EXPECT_FALSE(g.F_ERROR);
-    EXPECT_EQ(g.DIAM, 0.5);
-    EXPECT_EQ(g.LADOMENOR, 0.4);
-    EXPECT_EQ(g.NCP, 1200.5);
-    EXPECT_EQ(g.INCR, 1.25);
+    prueba::EsperaCampos(g, {{"DIAM", 0.5}, {"LADOMENOR", 0.4}, {"NCP", 1200.5}, {"INCR", 1.25}});
 }
 
 TEST(CopiaConfina, UnCampoVacioONoNumericoSeRechaza)
@@ -480,22 +434,12 @@ TEST(CopiaConfina, LosLadosNoPuedenSerCero)
 
 TEST(CopiaConfina, FckDe15A50AmbosIncluidos)
 {
-    EXPECT_FALSE(AceptaConfina(ConfinaCon({{&TextosConfina::FCK, "14,99"}})));
-    EXPECT_TRUE(AceptaConfina(ConfinaCon({{&TextosConfina::FCK, "15"}})));
-    EXPECT_TRUE(AceptaConfina(ConfinaCon({{&TextosConfina::FCK, "15,01"}})));
-    EXPECT_TRUE(AceptaConfina(ConfinaCon({{&TextosConfina::FCK, "49,99"}})));
-    EXPECT_TRUE(AceptaConfina(ConfinaCon({{&TextosConfina::FCK, "50"}})));
-    EXPECT_FALSE(AceptaConfina(ConfinaCon({{&TextosConfina::FCK, "50,01"}})));
+    EsperaLimitesConfina(&TextosConfina::FCK, {"15", "15,01", "49,99", "50"}, {"14,99", "50,01"});
 }
 
 TEST(CopiaConfina, ElIncrementoNoBajaDeUno)
 {
-    EXPECT_FALSE(AceptaConfina(ConfinaCon({{&TextosConfina::INCR, "0,99"}})));
-    EXPECT_FALSE(AceptaConfina(ConfinaCon({{&TextosConfina::INCR, "-0,99"}})));
-    EXPECT_FALSE(AceptaConfina(ConfinaCon({{&TextosConfina::INCR, "0"}})));
-    EXPECT_TRUE(AceptaConfina(ConfinaCon({{&TextosConfina::INCR, "1"}})));
-    EXPECT_TRUE(AceptaConfina(ConfinaCon({{&TextosConfina::INCR, "1,01"}})));
-    EXPECT_TRUE(AceptaConfina(ConfinaCon({{&TextosConfina::INCR, "-1"}})));
+    EsperaLimitesConfina(&TextosConfina::INCR, {"1", "1,01", "-1"}, {"0,99", "-0,99", "0"});
 }
 
 TEST(CopiaConfina, ElAxilPuedeSerCero)

@@ -18,6 +18,9 @@ namespace {
 
 using prueba::Avisos;
 using prueba::DirectorioTemporal;
+using prueba::LeeFicheroConfina;
+using prueba::LeeFicheroFlexion;
+using prueba::Lectura;
 
 const std::string kArchivoNoEncontrado = "Error 53: No se ha encontrado el archivo";
 const std::string kRutaNoEncontrada = "Error 76: No se ha encontrado la ruta de acceso";
@@ -58,130 +61,86 @@ TEST(MensajeErrorFichero, LosDemasDicenNumeroYDescripcion)
 
 // --- Readers -------------------------------------------------------------------------------------
 
+// A file that fails: F_ERROR and the one message.
+void EsperaFallo(const General& g, const std::vector<std::string>& avisos, const std::string& mensaje)
+{
+    EXPECT_TRUE(g.F_ERROR);
+    ASSERT_EQ(avisos.size(), 1u);
+    EXPECT_EQ(avisos[0], mensaje);
+}
+
+void EsperaFallo(const Lectura& l, const std::string& mensaje) { EsperaFallo(l.g, l.avisos, mensaje); }
+
 TEST(LeeFlexion, FicheroQueNoExisteDaError53YValoresDeArranque)
 {
     DirectorioTemporal dir;
-    General g = prueba::EstadoAjeno();
-    Entero tipo = -7;
-    Avisos avisos;
-    LeeFlexion(g, dir.Fichero("no_existe.vmf"), tipo, avisos.Funcion());
-    EXPECT_TRUE(g.F_ERROR);
-    ASSERT_EQ(avisos.Textos().size(), 1u);
-    EXPECT_EQ(avisos.Textos()[0], kArchivoNoEncontrado);
-    EXPECT_EQ(tipo, -7);
-    prueba::EsperaValoresFlexion(g);
+    const Lectura l = LeeFicheroFlexion(dir.Fichero("no_existe.vmf"));
+    EsperaFallo(l, kArchivoNoEncontrado);
+    EXPECT_EQ(l.tipo, prueba::kTipoSinLeer);
+    prueba::EsperaValoresFlexion(l.g);
 }
 
 TEST(LeeConfina, FicheroQueNoExisteDaError53YLaListaLarga)
 {
     DirectorioTemporal dir;
-    General g = prueba::EstadoAjeno();
-    Avisos avisos;
-    LeeConfina(g, dir.Fichero("no_existe.vmc"), avisos.Funcion());
-    EXPECT_TRUE(g.F_ERROR);
-    ASSERT_EQ(avisos.Textos().size(), 1u);
-    EXPECT_EQ(avisos.Textos()[0], kArchivoNoEncontrado);
-    prueba::EsperaValoresConfinamiento(g);
-    EXPECT_EQ(g.NU, 0.5);
-    EXPECT_EQ(g.FYK, 500.0);
+    const Lectura l = LeeFicheroConfina(dir.Fichero("no_existe.vmc"));
+    EsperaFallo(l, kArchivoNoEncontrado);
+    prueba::EsperaValoresConfinamiento(l.g);
+    prueba::EsperaCampos(l.g, {{"NU", 0.5}, {"FYK", 500.0}});
 }
 
 TEST(LeeFlexion, DirectorioQueNoExisteDaError76)
 {
     DirectorioTemporal dir;
-    General g = prueba::EstadoAjeno();
-    Entero tipo = 0;
-    Avisos avisos;
-    LeeFlexion(g, dir.Fichero("falta/proyecto.vmf"), tipo, avisos.Funcion());
-    EXPECT_TRUE(g.F_ERROR);
-    ASSERT_EQ(avisos.Textos().size(), 1u);
-    EXPECT_EQ(avisos.Textos()[0], kRutaNoEncontrada);
-    prueba::EsperaValoresFlexion(g);
+    const Lectura l = LeeFicheroFlexion(dir.Fichero("falta/proyecto.vmf"));
+    EsperaFallo(l, kRutaNoEncontrada);
+    prueba::EsperaValoresFlexion(l.g);
 }
 
 TEST(LeeConfina, DirectorioQueNoExisteDaError76)
 {
     DirectorioTemporal dir;
-    General g = prueba::EstadoAjeno();
-    Avisos avisos;
-    LeeConfina(g, dir.Fichero("falta/otro/proyecto.vmc"), avisos.Funcion());
-    EXPECT_TRUE(g.F_ERROR);
-    ASSERT_EQ(avisos.Textos().size(), 1u);
-    EXPECT_EQ(avisos.Textos()[0], kRutaNoEncontrada);
+    EsperaFallo(LeeFicheroConfina(dir.Fichero("falta/otro/proyecto.vmc")), kRutaNoEncontrada);
 }
 
 TEST(LeeFlexion, FicheroUsadoComoDirectorioDaError76)
 {
     DirectorioTemporal dir;
     prueba::EscribeBytes(dir.Fichero("fichero"), "1\r\n");
-    General g = prueba::EstadoAjeno();
-    Entero tipo = 0;
-    Avisos avisos;
-    LeeFlexion(g, dir.Fichero("fichero/proyecto.vmf"), tipo, avisos.Funcion());
-    EXPECT_TRUE(g.F_ERROR);
-    ASSERT_EQ(avisos.Textos().size(), 1u);
-    EXPECT_EQ(avisos.Textos()[0], kRutaNoEncontrada);
+    EsperaFallo(LeeFicheroFlexion(dir.Fichero("fichero/proyecto.vmf")), kRutaNoEncontrada);
 }
 
 TEST(LeeFlexion, DirectorioEnLugarDeFicheroDaErrorYValoresDeArranque)
 {
     DirectorioTemporal dir;
-    General g = prueba::EstadoAjeno();
-    Entero tipo = -7;
-    Avisos avisos;
-    LeeFlexion(g, dir.Ruta().string(), tipo, avisos.Funcion());
-    EXPECT_TRUE(g.F_ERROR);
-    ASSERT_EQ(avisos.Textos().size(), 1u);
-    EXPECT_EQ(avisos.Textos()[0], kErrorDeAccesoRuta);
-    EXPECT_EQ(tipo, -7);
-    prueba::EsperaValoresFlexion(g);
+    const Lectura l = LeeFicheroFlexion(dir.Ruta().string());
+    EsperaFallo(l, kErrorDeAccesoRuta);
+    EXPECT_EQ(l.tipo, prueba::kTipoSinLeer);
+    prueba::EsperaValoresFlexion(l.g);
 }
 
 TEST(LeeConfina, DirectorioEnLugarDeFicheroDaError)
 {
     DirectorioTemporal dir;
-    General g = prueba::EstadoAjeno();
-    Avisos avisos;
-    LeeConfina(g, dir.Ruta().string(), avisos.Funcion());
-    EXPECT_TRUE(g.F_ERROR);
-    ASSERT_EQ(avisos.Textos().size(), 1u);
-    EXPECT_EQ(avisos.Textos()[0], kErrorDeAccesoRuta);
-    EXPECT_EQ(g.NU, 0.5);
+    const Lectura l = LeeFicheroConfina(dir.Ruta().string());
+    EsperaFallo(l, kErrorDeAccesoRuta);
+    EXPECT_EQ(l.g.NU, 0.5);
 }
 
 TEST(LeeFlexion, NombreVacioDaError52)
 {
-    General g = prueba::EstadoAjeno();
-    Entero tipo = 0;
-    Avisos avisos;
-    LeeFlexion(g, "", tipo, avisos.Funcion());
-    EXPECT_TRUE(g.F_ERROR);
-    ASSERT_EQ(avisos.Textos().size(), 1u);
-    EXPECT_EQ(avisos.Textos()[0], kNombreIncorrecto);
-    prueba::EsperaValoresFlexion(g);
+    const Lectura l = LeeFicheroFlexion("");
+    EsperaFallo(l, kNombreIncorrecto);
+    prueba::EsperaValoresFlexion(l.g);
 }
 
-TEST(LeeConfina, NombreVacioDaError52)
-{
-    General g = prueba::EstadoAjeno();
-    Avisos avisos;
-    LeeConfina(g, "", avisos.Funcion());
-    EXPECT_TRUE(g.F_ERROR);
-    ASSERT_EQ(avisos.Textos().size(), 1u);
-    EXPECT_EQ(avisos.Textos()[0], kNombreIncorrecto);
-}
+TEST(LeeConfina, NombreVacioDaError52) { EsperaFallo(LeeFicheroConfina(""), kNombreIncorrecto); }
 
 TEST(LeeFlexion, NombreConNuloDentroDaError52)
 {
     DirectorioTemporal dir;
     prueba::EscribeBytes(dir.Fichero("a"), "1\r\n");
-    General g = prueba::EstadoAjeno();
-    Entero tipo = 0;
-    Avisos avisos;
-    LeeFlexion(g, dir.Fichero("a") + std::string(1, '\0') + "b", tipo, avisos.Funcion());
-    EXPECT_TRUE(g.F_ERROR);
-    ASSERT_EQ(avisos.Textos().size(), 1u);
-    EXPECT_EQ(avisos.Textos()[0], kNombreIncorrecto);
+    EsperaFallo(LeeFicheroFlexion(dir.Fichero("a") + std::string(1, '\0') + "b"), kNombreIncorrecto);
 }
 
 TEST(LeeFlexion, SinPermisoDeLecturaDaError70)
@@ -191,13 +150,7 @@ TEST(LeeFlexion, SinPermisoDeLecturaDaError70)
     std::filesystem::permissions(dir.Fichero("p.vmf"), std::filesystem::perms::none);
     if (SeAbreAunAsi(dir.Fichero("p.vmf"), "rb"))
         GTEST_SKIP() << "el administrador, y Windows, leen un fichero sin permiso de lectura";
-    General g = prueba::EstadoAjeno();
-    Entero tipo = 0;
-    Avisos avisos;
-    LeeFlexion(g, dir.Fichero("p.vmf"), tipo, avisos.Funcion());
-    EXPECT_TRUE(g.F_ERROR);
-    ASSERT_EQ(avisos.Textos().size(), 1u);
-    EXPECT_EQ(avisos.Textos()[0], kPermisoDenegado);
+    EsperaFallo(LeeFicheroFlexion(dir.Fichero("p.vmf")), kPermisoDenegado);
 }
 
 TEST(LeeFlexion, SinFuncionDeAvisoNoFalla)
@@ -270,16 +223,27 @@ TEST(LeeConfina, CincuentaLecturasDeUnFicheroCortoNoDejanFicherosAbiertos)
 
 // --- Writers ---------------------------------------------------------------------------------------
 
+// Writes g as a flexure file of that kind, or as a confinement file, and gives the messages.
+std::vector<std::string> AvisosDeGrabaFlexion(General& g, const std::string& fichero, Entero tipo)
+{
+    Avisos avisos;
+    GrabaFlexion(g, fichero, tipo, avisos.Funcion());
+    return avisos.Textos();
+}
+
+std::vector<std::string> AvisosDeGrabaConfina(General& g, const std::string& fichero)
+{
+    Avisos avisos;
+    GrabaConfina(g, fichero, avisos.Funcion());
+    return avisos.Textos();
+}
+
 TEST(GrabaFlexion, DirectorioQueNoExisteDaError76YNoTocaElEstado)
 {
     DirectorioTemporal dir;
     General g = prueba::EstadoAjeno();
     const General antes = g;
-    Avisos avisos;
-    GrabaFlexion(g, dir.Fichero("falta/flexion.vmf"), 1, avisos.Funcion());
-    EXPECT_TRUE(g.F_ERROR);
-    ASSERT_EQ(avisos.Textos().size(), 1u);
-    EXPECT_EQ(avisos.Textos()[0], kRutaNoEncontrada);
+    EsperaFallo(g, AvisosDeGrabaFlexion(g, dir.Fichero("falta/flexion.vmf"), 1), kRutaNoEncontrada);
     prueba::EsperaMismosValoresFlexion(antes, g);
     EXPECT_FALSE(std::filesystem::exists(dir.Ruta() / "falta"));
 }
@@ -289,11 +253,7 @@ TEST(GrabaConfina, DirectorioQueNoExisteDaError76YNoTocaElEstado)
     DirectorioTemporal dir;
     General g = prueba::EstadoAjeno();
     const General antes = g;
-    Avisos avisos;
-    GrabaConfina(g, dir.Fichero("falta/confina.vmc"), avisos.Funcion());
-    EXPECT_TRUE(g.F_ERROR);
-    ASSERT_EQ(avisos.Textos().size(), 1u);
-    EXPECT_EQ(avisos.Textos()[0], kRutaNoEncontrada);
+    EsperaFallo(g, AvisosDeGrabaConfina(g, dir.Fichero("falta/confina.vmc")), kRutaNoEncontrada);
     prueba::EsperaMismosValoresConfinamiento(antes, g);
 }
 
@@ -301,32 +261,20 @@ TEST(GrabaFlexion, DirectorioComoFicheroDaError75)
 {
     DirectorioTemporal dir;
     General g = prueba::EstadoAjeno();
-    Avisos avisos;
-    GrabaFlexion(g, dir.Ruta().string(), 2, avisos.Funcion());
-    EXPECT_TRUE(g.F_ERROR);
-    ASSERT_EQ(avisos.Textos().size(), 1u);
-    EXPECT_EQ(avisos.Textos()[0], kErrorDeAccesoRuta);
+    EsperaFallo(g, AvisosDeGrabaFlexion(g, dir.Ruta().string(), 2), kErrorDeAccesoRuta);
     EXPECT_TRUE(std::filesystem::is_directory(dir.Ruta()));
 }
 
 TEST(GrabaConfina, NombreVacioDaError52)
 {
     General g = prueba::EstadoAjeno();
-    Avisos avisos;
-    GrabaConfina(g, "", avisos.Funcion());
-    EXPECT_TRUE(g.F_ERROR);
-    ASSERT_EQ(avisos.Textos().size(), 1u);
-    EXPECT_EQ(avisos.Textos()[0], kNombreIncorrecto);
+    EsperaFallo(g, AvisosDeGrabaConfina(g, ""), kNombreIncorrecto);
 }
 
 TEST(GrabaFlexion, NombreVacioDaError52)
 {
     General g = prueba::EstadoAjeno();
-    Avisos avisos;
-    GrabaFlexion(g, "", 1, avisos.Funcion());
-    EXPECT_TRUE(g.F_ERROR);
-    ASSERT_EQ(avisos.Textos().size(), 1u);
-    EXPECT_EQ(avisos.Textos()[0], kNombreIncorrecto);
+    EsperaFallo(g, AvisosDeGrabaFlexion(g, "", 1), kNombreIncorrecto);
 }
 
 TEST(GrabaFlexion, DiscoLlenoDaEspacioInsuficiente)
@@ -334,11 +282,7 @@ TEST(GrabaFlexion, DiscoLlenoDaEspacioInsuficiente)
     if (!std::filesystem::exists("/dev/full")) GTEST_SKIP() << "no hay /dev/full";
     General g = prueba::EstadoAjeno();
     const General antes = g;
-    Avisos avisos;
-    GrabaFlexion(g, "/dev/full", 2, avisos.Funcion());
-    EXPECT_TRUE(g.F_ERROR);
-    ASSERT_EQ(avisos.Textos().size(), 1u);
-    EXPECT_EQ(avisos.Textos()[0], "Espacio en disco insuficiente.");
+    EsperaFallo(g, AvisosDeGrabaFlexion(g, "/dev/full", 2), "Espacio en disco insuficiente.");
     prueba::EsperaMismosValoresFlexion(antes, g);
 }
 
@@ -346,11 +290,7 @@ TEST(GrabaConfina, DiscoLlenoDaEspacioInsuficiente)
 {
     if (!std::filesystem::exists("/dev/full")) GTEST_SKIP() << "no hay /dev/full";
     General g = prueba::EstadoAjeno();
-    Avisos avisos;
-    GrabaConfina(g, "/dev/full", avisos.Funcion());
-    EXPECT_TRUE(g.F_ERROR);
-    ASSERT_EQ(avisos.Textos().size(), 1u);
-    EXPECT_EQ(avisos.Textos()[0], "Espacio en disco insuficiente.");
+    EsperaFallo(g, AvisosDeGrabaConfina(g, "/dev/full"), "Espacio en disco insuficiente.");
 }
 
 TEST(GrabaFlexion, FicheroDeSoloLecturaDaError70)
@@ -360,11 +300,7 @@ TEST(GrabaFlexion, FicheroDeSoloLecturaDaError70)
     std::filesystem::permissions(dir.Fichero("f.vmf"), std::filesystem::perms::owner_read);
     if (SeAbreAunAsi(dir.Fichero("f.vmf"), "ab")) GTEST_SKIP() << "el administrador escribe en cualquier fichero";
     General g = prueba::EstadoAjeno();
-    Avisos avisos;
-    GrabaFlexion(g, dir.Fichero("f.vmf"), 1, avisos.Funcion());
-    EXPECT_TRUE(g.F_ERROR);
-    ASSERT_EQ(avisos.Textos().size(), 1u);
-    EXPECT_EQ(avisos.Textos()[0], kPermisoDenegado);
+    EsperaFallo(g, AvisosDeGrabaFlexion(g, dir.Fichero("f.vmf"), 1), kPermisoDenegado);
     EXPECT_EQ(prueba::LeeBytes(dir.Fichero("f.vmf")), "viejo");
 }
 

@@ -2,6 +2,8 @@
 // back of what a writer wrote.
 #include "Auxiliares.h"
 
+#include "comun/Tablas.h"
+
 #include "files/Ficheros.h"
 #include "state/General.h"
 
@@ -26,30 +28,34 @@ General EstadoDeArranque()
     return g;
 }
 
-TEST(GrabaFlexion, RectangularDeArranqueSaleByteAByte)
+// The start values written as each kind of flexure file, byte by byte: one row a case.
+struct FlexionDeArranque { const char* nombre; Entero tipo; const char* bytes; };
+
+class GrabaFlexionDeArranque : public ::testing::TestWithParam<FlexionDeArranque> {};
+
+TEST_P(GrabaFlexionDeArranque, SaleByteAByte)
 {
     DirectorioTemporal dir;
     General g = EstadoDeArranque();
     Avisos avisos;
-    GrabaFlexion(g, dir.Fichero("flexion.vmf"), 1, avisos.Funcion());
+    GrabaFlexion(g, dir.Fichero("flexion.vmf"), GetParam().tipo, avisos.Funcion());
     EXPECT_FALSE(g.F_ERROR);
     EXPECT_TRUE(avisos.Textos().empty());
-    EXPECT_EQ(LeeBytes(dir.Fichero("flexion.vmf")),
-              "1\r\n0.4\r\n0.6\r\n0.05\r\n10\r\n0\r\n25\r\n500\r\n1.5\r\n1.15\r\n1.4\r\n0.125\r\n0\r\n0\r\n");
+    EXPECT_EQ(LeeBytes(dir.Fichero("flexion.vmf")), GetParam().bytes);
 }
 
-TEST(GrabaFlexion, SeccionTDeArranqueSaleByteAByte)
-{
-    DirectorioTemporal dir;
-    General g = EstadoDeArranque();
-    Avisos avisos;
-    GrabaFlexion(g, dir.Fichero("flexion.vmf"), 2, avisos.Funcion());
-    EXPECT_FALSE(g.F_ERROR);
-    EXPECT_TRUE(avisos.Textos().empty());
-    EXPECT_EQ(
-        LeeBytes(dir.Fichero("flexion.vmf")),
-        "2\r\n0.4\r\n0.6\r\n0.2\r\n0.2\r\n0.05\r\n10\r\n0\r\n25\r\n500\r\n1.5\r\n1.15\r\n1.4\r\n0.125\r\n0\r\n0\r\n");
-}
+// clang-format off
+const FlexionDeArranque kFlexionesDeArranque[] = {
+    {"Rectangular", 1, "1\r\n0.4\r\n0.6\r\n0.05\r\n10\r\n0\r\n25\r\n500\r\n1.5\r\n1.15\r\n1.4\r\n0.125\r\n0\r\n0\r\n"},
+    {"SeccionT",    2, "2\r\n0.4\r\n0.6\r\n0.2\r\n0.2\r\n0.05\r\n10\r\n0\r\n25\r\n500\r\n1.5\r\n1.15\r\n1.4\r\n0.125\r\n0\r\n0\r\n"},
+    // A type other than 2 does not write the lines of the T.
+    {"TipoDistintoDeDosSinLasLineasDeT", 3,
+     "3\r\n0.4\r\n0.6\r\n0.05\r\n10\r\n0\r\n25\r\n500\r\n1.5\r\n1.15\r\n1.4\r\n0.125\r\n0\r\n0\r\n"},
+};
+// clang-format on
+
+INSTANTIATE_TEST_SUITE_P(GrabaFlexion, GrabaFlexionDeArranque, ::testing::ValuesIn(kFlexionesDeArranque),
+                         prueba::NombreDeFila());
 
 TEST(GrabaConfina, PilarRectangularSaleByteAByte)
 {
@@ -69,23 +75,13 @@ TEST(GrabaConfina, PilarRectangularSaleByteAByte)
 TEST(GrabaFlexion, OrdenDeLineasDistintoDelDePantalla)
 {
     DirectorioTemporal dir;
+    // Each field numbered in the order of the screen; EPS0 is never written.
     General g;
-    g.ANCHO = 1;
-    g.CANTO = 2;
-    g.ANCHOALMA = 3;
-    g.CANTOALA = 4;
-    g.RECUB = 5;
-    g.ASI = 6;
-    g.ASS = 7;
-    g.FCK = 8;
-    g.FYK = 9;
-    g.GC = 10;
-    g.GS = 11;
-    g.GR = 12;
-    g.ANCHOR = 13;
-    g.MCP = 14;
-    g.MD = 15;
-    g.EPS0 = 16;  // never written
+    // clang-format off
+    g.ANCHO = 1;   g.CANTO = 2;   g.ANCHOALMA = 3;   g.CANTOALA = 4;   g.RECUB = 5;   g.ASI = 6;   g.ASS = 7;
+    g.FCK = 8;     g.FYK = 9;     g.GC = 10;         g.GS = 11;        g.GR = 12;
+    g.ANCHOR = 13; g.MCP = 14;    g.MD = 15;         g.EPS0 = 16;
+    // clang-format on
     GrabaFlexion(g, dir.Fichero("t.vmf"), 2, Aviso());
     EXPECT_EQ(LeeBytes(dir.Fichero("t.vmf")),
               ConFinDeLinea({"2", "1", "2", "3", "4", "5", "6", "7", "8", "9", "10", "11", "12", "13", "14", "15"}));
@@ -97,69 +93,48 @@ TEST(GrabaFlexion, OrdenDeLineasDistintoDelDePantalla)
 TEST(GrabaConfina, OrdenDeLineasYSinFykNiNu)
 {
     DirectorioTemporal dir;
+    // Each field numbered in the order of the file; FYK and NU are not written.
     General g;
-    g.SECCION = 2;
-    g.DIAM = 1;
-    g.LADOMENOR = 2;
-    g.FCK = 3;
-    g.GC = 4;
-    g.GS = 5;
-    g.GR = 6;
-    g.NCP = 7;
-    g.INCR = 8;
-    g.FYK = 99;
-    g.NU = 98;
+    // clang-format off
+    g.SECCION = 2;  g.DIAM = 1;  g.LADOMENOR = 2;  g.FCK = 3;  g.GC = 4;  g.GS = 5;  g.GR = 6;  g.NCP = 7;  g.INCR = 8;
+    g.FYK = 99;     g.NU = 98;
+    // clang-format on
     GrabaConfina(g, dir.Fichero("c.vmc"), Aviso());
     EXPECT_EQ(LeeBytes(dir.Fichero("c.vmc")), ConFinDeLinea({"2", "1", "2", "3", "4", "5", "6", "7", "8"}));
 }
 
-TEST(GrabaFlexion, TipoDistintoDeDosNoEscribeLasLineasDeT)
-{
-    DirectorioTemporal dir;
-    General g = EstadoDeArranque();
-    GrabaFlexion(g, dir.Fichero("f.vmf"), 3, Aviso());
-    EXPECT_EQ(LeeBytes(dir.Fichero("f.vmf")),
-              "3\r\n0.4\r\n0.6\r\n0.05\r\n10\r\n0\r\n25\r\n500\r\n1.5\r\n1.15\r\n1.4\r\n0.125\r\n0\r\n0\r\n");
-    EXPECT_FALSE(g.F_ERROR);
-}
+// The start values with a few fields changed, and the rectangular file written from them.
+struct FlexionCambiada { const char* nombre; void (*cambia)(General&); const char* bytes; };
 
-TEST(GrabaFlexion, NoCompruebaLosValores)
+class GrabaFlexionCambiada : public ::testing::TestWithParam<FlexionCambiada> {};
+
+TEST_P(GrabaFlexionCambiada, SaleByteAByte)
 {
     DirectorioTemporal dir;
     General g = EstadoDeArranque();
-    g.ASI = 0.0;
-    g.FCK = 99.0;
-    g.ANCHOR = 5.0;
+    GetParam().cambia(g);
     GrabaFlexion(g, dir.Fichero("f.vmf"), 1, Aviso());
     EXPECT_FALSE(g.F_ERROR);
-    EXPECT_EQ(LeeBytes(dir.Fichero("f.vmf")),
-              "1\r\n0.4\r\n0.6\r\n0.05\r\n0\r\n0\r\n99\r\n500\r\n1.5\r\n1.15\r\n1.4\r\n5\r\n0\r\n0\r\n");
+    EXPECT_EQ(LeeBytes(dir.Fichero("f.vmf")), GetParam().bytes);
 }
 
-TEST(GrabaFlexion, CeroNegativoSeEscribeComoCeroYNegativosConSigno)
-{
-    DirectorioTemporal dir;
-    General g = EstadoDeArranque();
-    g.ASS = -0.0;
-    g.MCP = -12.5;
-    g.MD = -0.0;
-    GrabaFlexion(g, dir.Fichero("f.vmf"), 1, Aviso());
-    EXPECT_EQ(LeeBytes(dir.Fichero("f.vmf")),
-              "1\r\n0.4\r\n0.6\r\n0.05\r\n10\r\n0\r\n25\r\n500\r\n1.5\r\n1.15\r\n1.4\r\n0.125\r\n-12.5\r\n0\r\n");
-}
+// clang-format off
+const FlexionCambiada kFlexionesCambiadas[] = {
+    {"NoCompruebaLosValores",
+     [](General& g) { g.ASI = 0.0; g.FCK = 99.0; g.ANCHOR = 5.0; },
+     "1\r\n0.4\r\n0.6\r\n0.05\r\n0\r\n0\r\n99\r\n500\r\n1.5\r\n1.15\r\n1.4\r\n5\r\n0\r\n0\r\n"},
+    {"CeroNegativoSeEscribeComoCeroYNegativosConSigno",
+     [](General& g) { g.ASS = -0.0; g.MCP = -12.5; g.MD = -0.0; },
+     "1\r\n0.4\r\n0.6\r\n0.05\r\n10\r\n0\r\n25\r\n500\r\n1.5\r\n1.15\r\n1.4\r\n0.125\r\n-12.5\r\n0\r\n"},
+    {"NumerosEnDecimalLlanoSinExponente",
+     [](General& g) { g.ANCHO = 1e-7; g.CANTO = 123456.789; g.RECUB = 1e20; },
+     "1\r\n0.0000001\r\n123456.789\r\n100000000000000000000\r\n10\r\n0\r\n25\r\n"
+     "500\r\n1.5\r\n1.15\r\n1.4\r\n0.125\r\n0\r\n0\r\n"},
+};
+// clang-format on
 
-TEST(GrabaFlexion, NumerosEnDecimalLlanoSinExponente)
-{
-    DirectorioTemporal dir;
-    General g = EstadoDeArranque();
-    g.ANCHO = 1e-7;
-    g.CANTO = 123456.789;
-    g.RECUB = 1e20;
-    GrabaFlexion(g, dir.Fichero("f.vmf"), 1, Aviso());
-    EXPECT_EQ(LeeBytes(dir.Fichero("f.vmf")),
-              "1\r\n0.0000001\r\n123456.789\r\n100000000000000000000\r\n10\r\n0\r\n25\r\n"
-              "500\r\n1.5\r\n1.15\r\n1.4\r\n0.125\r\n0\r\n0\r\n");
-}
+INSTANTIATE_TEST_SUITE_P(GrabaFlexion, GrabaFlexionCambiada, ::testing::ValuesIn(kFlexionesCambiadas),
+                         prueba::NombreDeFila());
 
 TEST(GrabaFlexion, ConfiguracionRegionalEspanolaSigueEscribiendoPuntos)
 {

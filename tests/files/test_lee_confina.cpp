@@ -7,41 +7,21 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace texalon {
 namespace {
 
 using prueba::ConFinDeLinea;
-using prueba::DirectorioTemporal;
 using prueba::LineasConfinaRectangular;
 
-struct Lectura {
-    General g;
-    std::vector<std::string> avisos;
-};
-
-// Reads a hand-made file over a state whose values all differ from the defaults (NU 0.3 and
-// FYK 410 among them).
-Lectura LeeTexto(const std::string& bytes, General inicial = prueba::EstadoAjeno())
-{
-    DirectorioTemporal dir;
-    prueba::EscribeBytes(dir.Fichero("proyecto.vmc"), bytes);
-    Lectura lectura;
-    lectura.g = inicial;
-    prueba::Avisos avisos;
-    LeeConfina(lectura.g, dir.Fichero("proyecto.vmc"), avisos.Funcion());
-    lectura.avisos = avisos.Textos();
-    return lectura;
-}
-
-Lectura LeeLineas(const std::vector<std::string>& lineas) { return LeeTexto(ConFinDeLinea(lineas)); }
+// What a reading leaves, and the readings of bytes and of lines.
+using prueba::Lectura, prueba::LeeConfinaDe, prueba::LeeLineasConfina;
 
 std::vector<std::string> ConfinaCon(std::size_t linea, const std::string& texto)
 {
-    auto lineas = LineasConfinaRectangular();
-    lineas.at(linea - 1) = texto;
-    return lineas;
+    return prueba::ConLinea(LineasConfinaRectangular(), linea, texto);
 }
 
 void EsperaAceptado(const Lectura& l)
@@ -49,8 +29,7 @@ void EsperaAceptado(const Lectura& l)
     EXPECT_FALSE(l.g.F_ERROR);
     EXPECT_TRUE(l.avisos.empty());
     // Neither NU nor FYK are in the file.
-    EXPECT_EQ(l.g.NU, 0.3);
-    EXPECT_EQ(l.g.FYK, 410.0);
+    prueba::EsperaCampos(l.g, {{"NU", 0.3}, {"FYK", 410.0}});
 }
 
 // A refusal loads the short list: NU and FYK stay as they were.
@@ -59,8 +38,7 @@ void EsperaRechazo(const Lectura& l)
     EXPECT_TRUE(l.g.F_ERROR);
     EXPECT_TRUE(l.avisos.empty());
     prueba::EsperaValoresConfinamiento(l.g);
-    EXPECT_EQ(l.g.NU, 0.3);
-    EXPECT_EQ(l.g.FYK, 410.0);
+    prueba::EsperaCampos(l.g, {{"NU", 0.3}, {"FYK", 410.0}});
 }
 
 // A run-time error loads the long list: NU 0.5 and FYK 500 as well.
@@ -70,33 +48,24 @@ void EsperaError(const Lectura& l, const std::string& mensaje)
     ASSERT_EQ(l.avisos.size(), 1u);
     EXPECT_EQ(l.avisos[0], mensaje);
     prueba::EsperaValoresConfinamiento(l.g);
-    EXPECT_EQ(l.g.NU, 0.5);
-    EXPECT_EQ(l.g.FYK, 500.0);
+    prueba::EsperaCampos(l.g, {{"NU", 0.5}, {"FYK", 500.0}});
 }
 
 TEST(LeeConfina, PilarRectangularGuardaCadaValorEnSuCampo)
 {
-    const Lectura l = LeeLineas({"3", "0.5", "0.4", "30", "1.6", "1.2", "1.3", "1200", "1.25"});
+    const Lectura l = LeeLineasConfina({"3", "0.5", "0.4", "30", "1.6", "1.2", "1.3", "1200", "1.25"});
     EsperaAceptado(l);
-    EXPECT_EQ(l.g.SECCION, 3);
-    EXPECT_EQ(l.g.DIAM, 0.5);
-    EXPECT_EQ(l.g.LADOMENOR, 0.4);
-    EXPECT_EQ(l.g.FCK, 30.0);
-    EXPECT_EQ(l.g.GC, 1.6);
-    EXPECT_EQ(l.g.GS, 1.2);
-    EXPECT_EQ(l.g.GR, 1.3);
-    EXPECT_EQ(l.g.NCP, 1200.0);
-    EXPECT_EQ(l.g.INCR, 1.25);
+    prueba::EsperaCampos(l.g, {{"SECCION", 3}, {"DIAM", 0.5}, {"LADOMENOR", 0.4}, {"FCK", 30.0}, {"GC", 1.6},
+                               {"GS", 1.2}, {"GR", 1.3}, {"NCP", 1200.0}, {"INCR", 1.25}});
     // Flexure fields are no business of the confinement reader.
-    EXPECT_EQ(l.g.ANCHO, 0.9);
-    EXPECT_EQ(l.g.ASI, 12.5);
+    prueba::EsperaCampos(l.g, {{"ANCHO", 0.9}, {"ASI", 12.5}});
 }
 
 TEST(LeeConfina, LasTresFormasSeAceptan)
 {
     for (Entero seccion = 1; seccion <= 3; ++seccion) {
         SCOPED_TRACE(seccion);
-        const Lectura l = LeeLineas(ConfinaCon(1, std::to_string(seccion)));
+        const Lectura l = LeeLineasConfina(ConfinaCon(1, std::to_string(seccion)));
         EsperaAceptado(l);
         EXPECT_EQ(l.g.SECCION, seccion);
     }
@@ -106,23 +75,23 @@ TEST(LeeConfina, SeccionFueraDeUnoATresSeRechaza)
 {
     for (const char* seccion : {"0", "4", "-1", "-3", "x"}) {
         SCOPED_TRACE(seccion);
-        EsperaRechazo(LeeLineas(ConfinaCon(1, seccion)));
+        EsperaRechazo(LeeLineasConfina(ConfinaCon(1, seccion)));
     }
 }
 
 TEST(LeeConfina, SeccionSeRedondeaAlPar)
 {
-    EXPECT_EQ(LeeLineas(ConfinaCon(1, "2.5")).g.SECCION, 2);
-    EXPECT_EQ(LeeLineas(ConfinaCon(1, "1.5")).g.SECCION, 2);
-    EXPECT_EQ(LeeLineas(ConfinaCon(1, "0.5")).g.F_ERROR, true);
-    EXPECT_EQ(LeeLineas(ConfinaCon(1, "3.5")).g.F_ERROR, true);
+    EXPECT_EQ(LeeLineasConfina(ConfinaCon(1, "2.5")).g.SECCION, 2);
+    EXPECT_EQ(LeeLineasConfina(ConfinaCon(1, "1.5")).g.SECCION, 2);
+    EXPECT_EQ(LeeLineasConfina(ConfinaCon(1, "0.5")).g.F_ERROR, true);
+    EXPECT_EQ(LeeLineasConfina(ConfinaCon(1, "3.5")).g.F_ERROR, true);
 }
 
 TEST(LeeConfina, SeccionQueDesbordaDaErrorYLaListaLarga)
 {
     for (const char* seccion : {"70000", "-32769", "1e999"}) {
         SCOPED_TRACE(seccion);
-        EsperaError(LeeLineas(ConfinaCon(1, seccion)), "Error 6: Desbordamiento");
+        EsperaError(LeeLineasConfina(ConfinaCon(1, seccion)), "Error 6: Desbordamiento");
     }
 }
 
@@ -132,28 +101,28 @@ TEST(LeeConfina, DiamOLadoMenorCeroSeRechazaEnCualquierForma)
         SCOPED_TRACE(seccion);
         auto sin_diam = ConfinaCon(2, "0");
         sin_diam[0] = seccion;
-        EsperaRechazo(LeeLineas(sin_diam));
+        EsperaRechazo(LeeLineasConfina(sin_diam));
         auto sin_lado = ConfinaCon(3, "0");
         sin_lado[0] = seccion;
-        EsperaRechazo(LeeLineas(sin_lado));
+        EsperaRechazo(LeeLineasConfina(sin_lado));
     }
 }
 
 TEST(LeeConfina, LadoMenorIgualAlDiamSeAcepta)
 {
-    const Lectura l = LeeLineas(ConfinaCon(3, "0.5"));
+    const Lectura l = LeeLineasConfina(ConfinaCon(3, "0.5"));
     EsperaAceptado(l);
     EXPECT_EQ(l.g.LADOMENOR, 0.5);
 }
 
 TEST(LeeConfina, LadoMenorMayorQueDiamSeRechazaSoloEnRectangular)
 {
-    EsperaRechazo(LeeLineas(ConfinaCon(3, "0.5000001")));
+    EsperaRechazo(LeeLineasConfina(ConfinaCon(3, "0.5000001")));
     for (const char* seccion : {"1", "2"}) {
         SCOPED_TRACE(seccion);
         auto lineas = ConfinaCon(3, "0.8");
         lineas[0] = seccion;
-        const Lectura l = LeeLineas(lineas);
+        const Lectura l = LeeLineasConfina(lineas);
         EsperaAceptado(l);
         EXPECT_EQ(l.g.LADOMENOR, 0.8);
     }
@@ -161,10 +130,10 @@ TEST(LeeConfina, LadoMenorMayorQueDiamSeRechazaSoloEnRectangular)
 
 TEST(LeeConfina, LimitesDeFckSeAceptan)
 {
-    const Lectura quince = LeeLineas(ConfinaCon(4, "15"));
+    const Lectura quince = LeeLineasConfina(ConfinaCon(4, "15"));
     EsperaAceptado(quince);
     EXPECT_EQ(quince.g.FCK, 15.0);
-    const Lectura cincuenta = LeeLineas(ConfinaCon(4, "50"));
+    const Lectura cincuenta = LeeLineasConfina(ConfinaCon(4, "50"));
     EsperaAceptado(cincuenta);
     EXPECT_EQ(cincuenta.g.FCK, 50.0);
 }
@@ -173,57 +142,48 @@ TEST(LeeConfina, FckJustoFueraSeRechaza)
 {
     for (const char* fck : {"14.9999", "50.0001", "-25", ""}) {
         SCOPED_TRACE(fck);
-        EsperaRechazo(LeeLineas(ConfinaCon(4, fck)));
+        EsperaRechazo(LeeLineasConfina(ConfinaCon(4, fck)));
     }
 }
 
 TEST(LeeConfina, IncrUnoSeAceptaYMenosSeRechaza)
 {
-    const Lectura uno = LeeLineas(ConfinaCon(9, "1"));
+    const Lectura uno = LeeLineasConfina(ConfinaCon(9, "1"));
     EsperaAceptado(uno);
     EXPECT_EQ(uno.g.INCR, 1.0);
     for (const char* incr : {"0.9999999", "0", "-1.5", "z"}) {
         SCOPED_TRACE(incr);
-        EsperaRechazo(LeeLineas(ConfinaCon(9, incr)));
+        EsperaRechazo(LeeLineasConfina(ConfinaCon(9, incr)));
     }
 }
 
 TEST(LeeConfina, CoeficientesCeroAbren)
 {
-    auto lineas = LineasConfinaRectangular();
-    lineas[4] = "0";
-    lineas[5] = "0";
-    lineas[6] = "0";
-    const Lectura l = LeeLineas(lineas);
+    // GC, GS and GR.
+    const Lectura l = LeeLineasConfina(prueba::ConLineas(LineasConfinaRectangular(), {{5, "0"}, {6, "0"}, {7, "0"}}));
     EsperaAceptado(l);
-    EXPECT_EQ(l.g.GC, 0.0);
-    EXPECT_EQ(l.g.GS, 0.0);
-    EXPECT_EQ(l.g.GR, 0.0);
+    prueba::EsperaCampos(l.g, {{"GC", 0.0}, {"GS", 0.0}, {"GR", 0.0}});
 }
 
 TEST(LeeConfina, NegativosQuePasanSeGuardanPositivos)
 {
-    const Lectura l = LeeLineas({"1", "-0.5", "-0.4", "25", "-1.5", "1.15", "1.4", "-1200", "1"});
+    const Lectura l = LeeLineasConfina({"1", "-0.5", "-0.4", "25", "-1.5", "1.15", "1.4", "-1200", "1"});
     EsperaAceptado(l);
-    EXPECT_EQ(l.g.DIAM, 0.5);
-    EXPECT_EQ(l.g.LADOMENOR, 0.4);
-    EXPECT_EQ(l.g.GC, 1.5);
-    EXPECT_EQ(l.g.NCP, 1200.0);
+    prueba::EsperaCampos(l.g, {{"DIAM", 0.5}, {"LADOMENOR", 0.4}, {"GC", 1.5}, {"NCP", 1200.0}});
 }
 
 TEST(LeeConfina, NegativosEnRectangularSeComparanConSigno)
 {
     // -0.4 <= -0.5 is false: the raw values decide.
-    EsperaRechazo(LeeLineas({"3", "-0.5", "-0.4", "25", "1.5", "1.15", "1.4", "0", "1"}));
-    const Lectura l = LeeLineas({"3", "-0.4", "-0.5", "25", "1.5", "1.15", "1.4", "0", "1"});
+    EsperaRechazo(LeeLineasConfina({"3", "-0.5", "-0.4", "25", "1.5", "1.15", "1.4", "0", "1"}));
+    const Lectura l = LeeLineasConfina({"3", "-0.4", "-0.5", "25", "1.5", "1.15", "1.4", "0", "1"});
     EsperaAceptado(l);
-    EXPECT_EQ(l.g.DIAM, 0.4);
-    EXPECT_EQ(l.g.LADOMENOR, 0.5);
+    prueba::EsperaCampos(l.g, {{"DIAM", 0.4}, {"LADOMENOR", 0.5}});
 }
 
 TEST(LeeConfina, RechazoCargaLaListaCortaSinNuNiFyk)
 {
-    const Lectura l = LeeLineas(ConfinaCon(4, "70"));
+    const Lectura l = LeeLineasConfina(ConfinaCon(4, "70"));
     EsperaRechazo(l);
     EXPECT_EQ(l.g.ANCHO, 0.9);
 }
@@ -232,50 +192,41 @@ TEST(LeeConfina, ErrorDeEjecucionCargaLaListaLargaConNuYFyk)
 {
     auto lineas = LineasConfinaRectangular();
     lineas.resize(8);
-    EsperaError(LeeLineas(lineas), "Error 62: La entrada sobrepasa el final del archivo");
+    EsperaError(LeeLineasConfina(lineas), "Error 62: La entrada sobrepasa el final del archivo");
 }
 
 TEST(LeeConfina, DobleDemasiadoGrandeDaDesbordamiento)
 {
-    EsperaError(LeeLineas(ConfinaCon(8, "-1e999")), "Error 6: Desbordamiento");
+    EsperaError(LeeLineasConfina(ConfinaCon(8, "-1e999")), "Error 6: Desbordamiento");
 }
 
 TEST(LeeConfina, ComaDecimalDesplazaLosValores)
 {
     // GC 1,5 is read as GC 1 and GS 5; the rest moves by one and INCR takes the axial load.
-    const Lectura l = LeeTexto("1\r\n0.5\r\n0.4\r\n25\r\n1,5\r\n1.15\r\n1.4\r\n1200\r\n1\r\n");
+    const Lectura l = LeeConfinaDe("1\r\n0.5\r\n0.4\r\n25\r\n1,5\r\n1.15\r\n1.4\r\n1200\r\n1\r\n");
     EsperaAceptado(l);
-    EXPECT_EQ(l.g.SECCION, 1);
-    EXPECT_EQ(l.g.GC, 1.0);
-    EXPECT_EQ(l.g.GS, 5.0);
-    EXPECT_EQ(l.g.GR, 1.15);
-    EXPECT_EQ(l.g.NCP, 1.4);
-    EXPECT_EQ(l.g.INCR, 1200.0);
+    prueba::EsperaCampos(l.g, {{"SECCION", 1}, {"GC", 1.0}, {"GS", 5.0}, {"GR", 1.15}, {"NCP", 1.4}, {"INCR", 1200.0}});
 }
 
 TEST(LeeConfina, ComaDecimalEnElDiametroSeRechaza)
 {
     // 0,5 gives DIAM 0.
-    EsperaRechazo(LeeTexto("3\r\n0,5\r\n0,4\r\n25\r\n1,5\r\n1,15\r\n1,4\r\n1200\r\n1\r\n"));
+    EsperaRechazo(LeeConfinaDe("3\r\n0,5\r\n0,4\r\n25\r\n1,5\r\n1,15\r\n1,4\r\n1200\r\n1\r\n"));
 }
 
 TEST(LeeConfina, NueveValoresEnUnaLinea)
 {
-    const Lectura l = LeeTexto("3,0.5,0.4,25,1.5,1.15,1.4,1200,1");
+    const Lectura l = LeeConfinaDe("3,0.5,0.4,25,1.5,1.15,1.4,1200,1");
     EsperaAceptado(l);
-    EXPECT_EQ(l.g.SECCION, 3);
-    EXPECT_EQ(l.g.NCP, 1200.0);
-    EXPECT_EQ(l.g.INCR, 1.0);
+    prueba::EsperaCampos(l.g, {{"SECCION", 3}, {"NCP", 1200.0}, {"INCR", 1.0}});
 }
 
 TEST(LeeConfina, FinesDeLineaLfYCrSolos)
 {
     for (const char* fin : {"\n", "\r"}) {
-        const Lectura l = LeeTexto(ConFinDeLinea(LineasConfinaRectangular(), fin));
+        const Lectura l = LeeConfinaDe(ConFinDeLinea(LineasConfinaRectangular(), fin));
         EsperaAceptado(l);
-        EXPECT_EQ(l.g.SECCION, 3);
-        EXPECT_EQ(l.g.LADOMENOR, 0.4);
-        EXPECT_EQ(l.g.INCR, 1.0);
+        prueba::EsperaCampos(l.g, {{"SECCION", 3}, {"LADOMENOR", 0.4}, {"INCR", 1.0}});
     }
 }
 
@@ -283,11 +234,10 @@ TEST(LeeConfina, NuncaBorraLaBanderaDeError)
 {
     General inicial = prueba::EstadoAjeno();
     inicial.F_ERROR = true;
-    const Lectura l = LeeTexto(ConFinDeLinea(LineasConfinaRectangular()), inicial);
+    const Lectura l = LeeConfinaDe(ConFinDeLinea(LineasConfinaRectangular()), inicial);
     EXPECT_TRUE(l.g.F_ERROR);
     EXPECT_TRUE(l.avisos.empty());
-    EXPECT_EQ(l.g.SECCION, 3);
-    EXPECT_EQ(l.g.NCP, 1200.0);
+    prueba::EsperaCampos(l.g, {{"SECCION", 3}, {"NCP", 1200.0}});
 }
 
 }  // namespace

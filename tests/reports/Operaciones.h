@@ -14,6 +14,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstddef>
+#include <initializer_list>
 #include <string>
 #include <utility>
 #include <vector>
@@ -48,6 +49,20 @@ inline void EsperaOperaciones(const std::vector<plataforma::Operacion>& reales,
         for (std::size_t j = 0; j < reales[i].numeros.size(); ++j)
             EXPECT_NEAR(reales[i].numeros[j], esperadas[i].numeros[j], kTolerancia) << "número " << j;
     }
+}
+
+// The three operations that print a text at (x, y): the place, then the text.
+inline std::vector<plataforma::Operacion> ImpresoEn(double x, double y, const std::string& texto)
+{
+    return {{"CurrentX", {x}, ""}, {"CurrentY", {y}, ""}, {"Print", {x, y}, texto}};
+}
+
+// Runs of operations, one after the other.
+inline std::vector<plataforma::Operacion> Seguidas(std::initializer_list<std::vector<plataforma::Operacion>> partes)
+{
+    std::vector<plataforma::Operacion> todas;
+    for (const auto& parte : partes) todas.insert(todas.end(), parte.begin(), parte.end());
+    return todas;
 }
 
 // One operation: its name and every number to 1e-9.

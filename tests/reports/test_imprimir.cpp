@@ -6,6 +6,7 @@
 #include "reports/Imprimir.h"
 
 #include "Operaciones.h"
+#include "comun/Tablas.h"
 #include "diagrams/Lista.h"
 #include "platform/dobles/ImpresoraDoble.h"
 
@@ -13,6 +14,7 @@
 
 #include <cstddef>
 #include <string>
+#include <tuple>
 #include <vector>
 
 namespace texalon {
@@ -21,6 +23,8 @@ namespace {
 using plataforma::ImpresoraDoble;
 using plataforma::Operacion;
 using prueba::EsperaOperaciones;
+// What the printer records to print a text at a place, and runs of operations one after another.
+using prueba::ImpresoEn, prueba::Seguidas;
 
 constexpr Color kRojo255 = ColorRGB(255, 0, 0);
 constexpr Color kVerde = ColorRGB(0, 128, 0);
@@ -184,13 +188,9 @@ TEST(ImprimirFilas, LaCabeceraVaEnNegritaYLaQuitaDespues)
 {
     ImpresoraDoble impresora;
     Cabecera(impresora, 2.0, 4.0, "DATOS GENERALES");
-    EsperaOperaciones(impresora.operaciones, {
-                                                 {"FontBold", {1}, ""},
-                                                 {"CurrentX", {2.0}, ""},
-                                                 {"CurrentY", {4.0}, ""},
-                                                 {"Print", {2.0, 4.0}, "DATOS GENERALES"},
-                                                 {"FontBold", {0}, ""},
-                                             });
+    EsperaOperaciones(impresora.operaciones, Seguidas({{{"FontBold", {1}, ""}},
+                                                       ImpresoEn(2.0, 4.0, "DATOS GENERALES"),
+                                                       {{"FontBold", {0}, ""}}}));
 }
 
 TEST(ImprimirFilas, EtiquetaYValorEnSusColumnasYUnaLineaNaturalMasAbajo)
@@ -199,20 +199,10 @@ TEST(ImprimirFilas, EtiquetaYValorEnSusColumnasYUnaLineaNaturalMasAbajo)
     double y = 5.0;
     Fila(impresora, 2.0, y, "Espesor:", "0,111 mm");
     Fila(impresora, 2.0, y, "Módulo de Young:", "230000 N/mm²");
-    EsperaOperaciones(impresora.operaciones, {
-                                                 {"CurrentX", {2.0}, ""},
-                                                 {"CurrentY", {5.0}, ""},
-                                                 {"Print", {2.0, 5.0}, "Espesor:"},
-                                                 {"CurrentX", {6.5}, ""},
-                                                 {"CurrentY", {5.0}, ""},
-                                                 {"Print", {6.5, 5.0}, "0,111 mm"},
-                                                 {"CurrentX", {2.0}, ""},
-                                                 {"CurrentY", {5.5}, ""},
-                                                 {"Print", {2.0, 5.5}, "Módulo de Young:"},
-                                                 {"CurrentX", {6.5}, ""},
-                                                 {"CurrentY", {5.5}, ""},
-                                                 {"Print", {6.5, 5.5}, "230000 N/mm²"},
-                                             });
+    // Each row: the label, then its value.
+    EsperaOperaciones(impresora.operaciones,
+                      Seguidas({ImpresoEn(2.0, 5.0, "Espesor:"), ImpresoEn(6.5, 5.0, "0,111 mm"),
+                                ImpresoEn(2.0, 5.5, "Módulo de Young:"), ImpresoEn(6.5, 5.5, "230000 N/mm²")}));
     EXPECT_DOUBLE_EQ(y, 6.0);
 }
 
@@ -231,20 +221,9 @@ TEST(ImprimirFilas, ElSubindiceBajaCincoCentesimasYLosDosPuntosVanTrasElTextoMed
     ImpresoraDoble impresora;
     double y = 7.0;
     FilaConSubindice(impresora, 2.0, y, "f", "ck", "fck", "25,00 N/mm²");
-    EsperaOperaciones(impresora.operaciones, {
-                                                 {"CurrentX", {2.0}, ""},
-                                                 {"CurrentY", {7.0}, ""},
-                                                 {"Print", {2.0, 7.0}, "f"},
-                                                 {"CurrentX", {2.2}, ""},
-                                                 {"CurrentY", {7.05}, ""},
-                                                 {"Print", {2.2, 7.05}, "ck"},
-                                                 {"CurrentX", {2.6}, ""},
-                                                 {"CurrentY", {7.0}, ""},
-                                                 {"Print", {2.6, 7.0}, ":"},
-                                                 {"CurrentX", {6.5}, ""},
-                                                 {"CurrentY", {7.0}, ""},
-                                                 {"Print", {6.5, 7.0}, "25,00 N/mm²"},
-                                             });
+    // The letter, its subscript, the colon and the value.
+    EsperaOperaciones(impresora.operaciones, Seguidas({ImpresoEn(2.0, 7.0, "f"), ImpresoEn(2.2, 7.05, "ck"),
+                                                       ImpresoEn(2.6, 7.0, ":"), ImpresoEn(6.5, 7.0, "25,00 N/mm²")}));
     EXPECT_DOUBLE_EQ(y, 7.5);
 }
 
@@ -352,17 +331,24 @@ TEST(ImprimirLista, UnTextoSoloLlegaHastaElOrigen)
                                            });
 }
 
+// A list of one thin solid black line from (0, 0) to (x, y), printed into the framed list's
+// area: the operations after the set-up.
+std::vector<Operacion> UnaLineaEnPapel(GeneralDibujo& d, double x, double y, Entero isotropico)
+{
+    NuevaLista(d);
+    AnadeLinea(d, 0, 0, x, y, 0, kContinua, 1);
+    ImpresoraDoble impresora;
+    ImprimeLista(impresora, d, 1.0, 3.0, 4.0, 2.7, isotropico);
+    return Desde(impresora, 4);
+}
+
 TEST(ImprimirLista, IsotropicoSinAnchoTodoCaeEnElCentro)
 {
     GeneralDibujo d;
-    NuevaLista(d);
-    AnadeLinea(d, 0, 0, 0, 4, 0, kContinua, 1);
-    ImpresoraDoble impresora;
-    ImprimeLista(impresora, d, 1.0, 3.0, 4.0, 2.7, 1);
-    EXPECT_EQ(d.ESCALAX, 0.0);
-    EXPECT_EQ(d.ESCALAY, 0.0);
+    const std::vector<Operacion> ops = UnaLineaEnPapel(d, 0, 4, 1);
+    EXPECT_EQ(std::tie(d.ESCALAX, d.ESCALAY), std::tuple(0.0, 0.0));
     // The centre of the area: 3 + 15 / 2 across, 4 + 21 / 2 down.
-    EsperaOperaciones(Desde(impresora, 4), {{"Line", {10.5, 14.5, 10.5, 14.5, 0}, ""}});
+    EsperaOperaciones(ops, {{"Line", {10.5, 14.5, 10.5, 14.5, 0}, ""}});
 }
 
 TEST(ImprimirLista, ElMargenDerechoEsElPrimerArgumento)
@@ -394,13 +380,9 @@ TEST(ImprimirLista, DejaElRectanguloDeLaPaginaEnCentimetrosYSusEscalas)
 TEST(ImprimirLista, IsotropicoUnCuadradoEsCuadradoEnElPapel)
 {
     GeneralDibujo d;
-    NuevaLista(d);
-    AnadeLinea(d, 0, 0, 4, 4, 0, kContinua, 1);
-    ImpresoraDoble impresora;
-    ImprimeLista(impresora, d, 1.0, 3.0, 4.0, 2.7, 1);
     // ESCALAX = 15 × 0.8 / 4 = 3 is the smaller, and both take it: ox = (15 - 12) / 2 + 3,
     // oy = 25 - (21 - 12) / 2.
-    EsperaOperaciones(Desde(impresora, 4), {{"Line", {4.5, 20.5, 16.5, 8.5, 0}, ""}});
+    EsperaOperaciones(UnaLineaEnPapel(d, 4, 4, 1), {{"Line", {4.5, 20.5, 16.5, 8.5, 0}, ""}});
     EXPECT_NEAR(d.ESCALAX, 3.0, 1e-9);
     EXPECT_NEAR(d.ESCALAY, 3.0, 1e-9);
 }
@@ -408,12 +390,14 @@ TEST(ImprimirLista, IsotropicoUnCuadradoEsCuadradoEnElPapel)
 TEST(ImprimirLista, NoIsotropicoElCuadradoSeEstiraAlOchentaPorCiento)
 {
     GeneralDibujo d;
-    NuevaLista(d);
-    AnadeLinea(d, 0, 0, 4, 4, 0, kContinua, 1);
-    ImpresoraDoble impresora;
-    ImprimeLista(impresora, d, 1.0, 3.0, 4.0, 2.7, 0);
     // 80 % of 15 across and 80 % of 21 down.
-    EsperaOperaciones(Desde(impresora, 4), {{"Line", {4.5, 22.9, 16.5, 6.1, 0}, ""}});
+    EsperaOperaciones(UnaLineaEnPapel(d, 4, 4, 0), {{"Line", {4.5, 22.9, 16.5, 6.1, 0}, ""}});
+}
+
+// The four operations of a line on paper: the solid style, its width, its own style, the line.
+std::vector<Operacion> LineaEnPapel(double ancho, double estilo, const std::vector<double>& linea)
+{
+    return {{"DrawStyle", {0}, ""}, {"DrawWidth", {ancho}, ""}, {"DrawStyle", {estilo}, ""}, {"Line", linea, ""}};
 }
 
 TEST(ImprimirLista, LasLineasGruesasDoblanSuAnchoEnElPapel)
@@ -423,20 +407,9 @@ TEST(ImprimirLista, LasLineasGruesasDoblanSuAnchoEnElPapel)
     AnadeLinea(d, 0, 0, 10, 0, 0, kContinua, 2);
     AnadeLinea(d, 0, 0, 10, 0, 0, kContinua, 1);
     ImpresoraDoble impresora;
-    EsperaOperaciones(ImprimeConMarco(d, impresora), {
-                                                         {"DrawStyle", {0}, ""},
-                                                         {"DrawWidth", {6}, ""},
-                                                         {"DrawStyle", {0}, ""},
-                                                         {"Line", {4.5, 22.9, 16.5, 22.9, 0}, ""},
-                                                         {"DrawStyle", {0}, ""},
-                                                         {"DrawWidth", {4}, ""},
-                                                         {"DrawStyle", {0}, ""},
-                                                         {"Line", {4.5, 22.9, 16.5, 22.9, 0}, ""},
-                                                         {"DrawStyle", {0}, ""},
-                                                         {"DrawWidth", {1}, ""},
-                                                         {"DrawStyle", {0}, ""},
-                                                         {"Line", {4.5, 22.9, 16.5, 22.9, 0}, ""},
-                                                     });
+    EsperaOperaciones(ImprimeConMarco(d, impresora), Seguidas({LineaEnPapel(6, 0, {4.5, 22.9, 16.5, 22.9, 0}),
+                                                                LineaEnPapel(4, 0, {4.5, 22.9, 16.5, 22.9, 0}),
+                                                                LineaEnPapel(1, 0, {4.5, 22.9, 16.5, 22.9, 0})}));
 }
 
 TEST(ImprimirLista, ElEstiloTresEsPunteadoYElUnoContinuo)
@@ -445,30 +418,49 @@ TEST(ImprimirLista, ElEstiloTresEsPunteadoYElUnoContinuo)
     AnadeLinea(d, 0, 5, 10, 5, kCiruela, kPunteada, 3);
     AnadeLinea(d, 0, 5, 10, 5, 0, kContinua, 1);
     ImpresoraDoble impresora;
-    EsperaOperaciones(ImprimeConMarco(d, impresora), {
-                                                         {"DrawStyle", {0}, ""},
-                                                         {"DrawWidth", {6}, ""},
-                                                         {"DrawStyle", {2}, ""},
-                                                         {"Line", {4.5, 6.1, 16.5, 6.1, double(kCiruela)}, ""},
-                                                         {"DrawStyle", {0}, ""},
-                                                         {"DrawWidth", {1}, ""},
-                                                         {"DrawStyle", {0}, ""},
-                                                         {"Line", {4.5, 6.1, 16.5, 6.1, 0}, ""},
-                                                     });
+    // Dotted is the printer's style 2.
+    EsperaOperaciones(ImprimeConMarco(d, impresora),
+                      Seguidas({LineaEnPapel(6, 2, {4.5, 6.1, 16.5, 6.1, double(kCiruela)}),
+                                LineaEnPapel(1, 0, {4.5, 6.1, 16.5, 6.1, 0})}));
     EXPECT_EQ(impresora.estilo, 0);
 }
 
-TEST(ImprimirLista, UnPuntoEsUnCirculoDeUnMilimetro)
+// One element added to the framed list, and the operation that draws it on paper, after the
+// solid style and the width of one.
+struct ElementoEnPapel {
+    const char* nombre;
+    void (*anade)(GeneralDibujo&);
+    Operacion dibujo;
+};
+
+class UnElementoEnPapel : public ::testing::TestWithParam<ElementoEnPapel> {};
+
+TEST_P(UnElementoEnPapel, SeDibujaAsi)
 {
     GeneralDibujo d = ListaConMarco();
-    AnadePunto(d, 5, 2.5, kRojo255);
+    GetParam().anade(d);
     ImpresoraDoble impresora;
-    EsperaOperaciones(ImprimeConMarco(d, impresora), {
-                                                         {"DrawStyle", {0}, ""},
-                                                         {"DrawWidth", {1}, ""},
-                                                         {"Circle", {10.5, 14.5, 0.1, double(kRojo255)}, ""},
-                                                     });
+    EsperaOperaciones(ImprimeConMarco(d, impresora),
+                      {{"DrawStyle", {0}, ""}, {"DrawWidth", {1}, ""}, GetParam().dibujo});
 }
+
+// clang-format off
+const ElementoEnPapel kElementosEnPapel[] = {
+    {"UnPuntoEsUnCirculoDeUnMilimetro",
+     [](GeneralDibujo& d) { AnadePunto(d, 5, 2.5, kRojo255); },
+     {"Circle", {10.5, 14.5, 0.1, double(kRojo255)}, ""}},
+    {"UnaBarraEsUnaCajaDeAnchoUno",
+     [](GeneralDibujo& d) { AnadeForma(d, Clase::Barra, 2, 4, 7, 1, kRojo255); },
+     {"Box", {6.9, 9.46, 12.9, 19.54, double(kRojo255)}, ""}},
+    // 6 wide and 10.08 high on paper: the radius is half the width.
+    {"LaElipseEsUnCirculoDeSuAnchoAunqueElAltoDifiera",
+     [](GeneralDibujo& d) { AnadeForma(d, Clase::Elipse, 2, 4, 7, 1, kVerde); },
+     {"Circle", {9.9, 14.5, 3.0, double(kVerde)}, ""}},
+};
+// clang-format on
+
+INSTANTIATE_TEST_SUITE_P(ImprimirLista, UnElementoEnPapel, ::testing::ValuesIn(kElementosEnPapel),
+                         prueba::NombreDeFila());
 
 TEST(ImprimirLista, LosTresTextosSeAnclanPorSuAnchoYSuAlto)
 {
@@ -500,18 +492,6 @@ TEST(ImprimirLista, LosTresTextosSeAnclanPorSuAnchoYSuAlto)
                                                          {"CurrentY", {14.3}, ""},
                                                          {"ForeColor", {double(kVerde)}, ""},
                                                          {"Print", {10.5 + 0.64 / 3, 14.3}, "ABCD"},
-                                                     });
-}
-
-TEST(ImprimirLista, UnaBarraEsUnaCajaDeAnchoUno)
-{
-    GeneralDibujo d = ListaConMarco();
-    AnadeForma(d, Clase::Barra, 2, 4, 7, 1, kRojo255);
-    ImpresoraDoble impresora;
-    EsperaOperaciones(ImprimeConMarco(d, impresora), {
-                                                         {"DrawStyle", {0}, ""},
-                                                         {"DrawWidth", {1}, ""},
-                                                         {"Box", {6.9, 9.46, 12.9, 19.54, double(kRojo255)}, ""},
                                                      });
 }
 
@@ -554,19 +534,6 @@ TEST(ImprimirLista, ElRadioDelRedondeoSaleDelLadoMenor)
         EXPECT_NEAR(op[i].numeros[2], 0.336, 1e-9);
     EXPECT_NEAR(op[2].numeros[1], 16.18 + 0.336, 1e-9);
     EXPECT_NEAR(op[4].numeros[0], 5.7 + 0.336, 1e-9);
-}
-
-TEST(ImprimirLista, LaElipseEsUnCirculoDeSuAnchoAunqueElAltoDifiera)
-{
-    GeneralDibujo d = ListaConMarco();
-    AnadeForma(d, Clase::Elipse, 2, 4, 7, 1, kVerde);
-    ImpresoraDoble impresora;
-    // 6 wide and 10.08 high on paper: the radius is half the width.
-    EsperaOperaciones(ImprimeConMarco(d, impresora), {
-                                                         {"DrawStyle", {0}, ""},
-                                                         {"DrawWidth", {1}, ""},
-                                                         {"Circle", {9.9, 14.5, 3.0, double(kVerde)}, ""},
-                                                     });
 }
 
 TEST(ImprimirLista, UnElementoDeOtraClaseNoSeDibujaPeroEntraEnLaCaja)

@@ -14,6 +14,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <functional>
 #include <iterator>
 #include <string>
 #include <vector>
@@ -128,46 +129,36 @@ void Imprime(Informe& informe, General& g, int fila, char sep)
 
 // ---- The page, row by row, for each shape.
 
-TEST(InformeConfina, CircularPorDefectoImprimeCadaFilaEnSuSitio)
+// The page of a column of that shape, calculated and printed with each separator, row by row up
+// to the diagrams; then `ademas` on its operations.
+void EsperaPaginaDeLaForma(Entero seccion, int fila,
+                           const std::function<void(const std::vector<Operacion>&)>& ademas = nullptr)
 {
     for (char sep : {'.', ','}) {
         SCOPED_TRACE(std::string("separador ") + sep);
-        General g = Calculada(1);
+        General g = Calculada(seccion);
         Informe informe;
-        Imprime(informe, g, kCircular, sep);
-        EsperaTextos(TextosAntesDeLosDiagramas(informe.impresora.operaciones),
-                     Pagina(DatosGenerales(kCircular, sep), CifrasDe(1), sep));
+        Imprime(informe, g, fila, sep);
+        const auto& ops = informe.impresora.operaciones;
+        EsperaTextos(TextosAntesDeLosDiagramas(ops), Pagina(DatosGenerales(fila, sep), CifrasDe(seccion), sep));
+        if (ademas) ademas(ops);
     }
 }
 
-TEST(InformeConfina, CuadradaImprimeCuadradaYLado)
-{
-    for (char sep : {'.', ','}) {
-        SCOPED_TRACE(std::string("separador ") + sep);
-        General g = Calculada(2);
-        Informe informe;
-        Imprime(informe, g, kCuadrada, sep);
-        EsperaTextos(TextosAntesDeLosDiagramas(informe.impresora.operaciones),
-                     Pagina(DatosGenerales(kCuadrada, sep), CifrasDe(2), sep));
-    }
-}
+TEST(InformeConfina, CircularPorDefectoImprimeCadaFilaEnSuSitio) { EsperaPaginaDeLaForma(1, kCircular); }
+
+TEST(InformeConfina, CuadradaImprimeCuadradaYLado) { EsperaPaginaDeLaForma(2, kCuadrada); }
 
 TEST(InformeConfina, RectangularDejaElTipoEnBlancoConLadoMayorYLadoMenor)
 {
-    for (char sep : {'.', ','}) {
-        SCOPED_TRACE(std::string("separador ") + sep);
-        General g = Calculada(3);
-        Informe informe;
-        Imprime(informe, g, kRectangular, sep);
-        const auto& ops = informe.impresora.operaciones;
-        EsperaTextos(TextosAntesDeLosDiagramas(ops), Pagina(DatosGenerales(kRectangular, sep), CifrasDe(3), sep));
+    EsperaPaginaDeLaForma(3, kRectangular, [](const std::vector<Operacion>& ops) {
         // The value beside "Tipo de sección:" is printed, and empty.
         const std::size_t etiqueta = PosicionDelTexto(ops, "Tipo de sección:");
         const auto valor = std::find_if(ops.begin() + static_cast<std::ptrdiff_t>(etiqueta) + 1, ops.end(),
                                         [](const Operacion& op) { return op.nombre == "Print"; });
         ASSERT_NE(valor, ops.end());
         EXPECT_EQ(*valor, (Operacion{"Print", {kIzquierda + kValor, 5.0}, ""}));
-    }
+    });
 }
 
 TEST(InformeConfina, CircularSinLadoMenorSubeLasFilasYElBloqueDerechoSeQueda)
@@ -264,16 +255,15 @@ TEST(InformeConfina, LosTextosDeLosCamposSeLeenYSeFormateanDeNuevo)
     for (char sep : {'.', ','}) {
         SCOPED_TRACE(std::string("separador ") + sep);
         General g = Calculada(1);
-        ResultadosCeldaConfina celda = ResultadosConfina(g, 1, 1, sep);
-        celda.tipo = std::string("  ") + kCelda + "  ";
-        celda.WC = Con("0.19634954", sep);
-        celda.WR = Con(" 0.0001745 ", sep);
-        celda.WWD = Con("0.0130685", sep);
-        celda.EPS0 = "1";
-        celda.EPSR = Con("1.065", sep);
-        celda.SIGMAR = Con("245.25", sep);
-        celda.TENSCONF = Con("0.0065", sep);
-        celda.RESU = Con("1.025", sep);
+        const ResultadosCeldaConfina celda{.tipo = std::string("  ") + kCelda + "  ",
+                                           .WC = Con("0.19634954", sep),
+                                           .WR = Con(" 0.0001745 ", sep),
+                                           .WWD = Con("0.0130685", sep),
+                                           .EPS0 = "1",
+                                           .EPSR = Con("1.065", sep),
+                                           .SIGMAR = Con("245.25", sep),
+                                           .TENSCONF = Con("0.0065", sep),
+                                           .RESU = Con("1.025", sep)};
         Informe informe;
         InformeConfina(informe.impresora, g, informe.d, celda, kCircular, sep);
         // Rounded half away from zero in decimal; the initial strain without a blank.

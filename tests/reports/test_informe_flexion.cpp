@@ -74,22 +74,34 @@ std::vector<Fila> DatosGenerales(char sep, bool enT, const std::string& md, cons
 
 // The right block of cell (L, 1) of the default projects with MD 250: only the limit moment
 // differs between the rectangle and the T of flange 0.20.
-std::vector<Fila> Resultados(char sep, const std::string& mlim)
+// The figures of the cell that differ between the cases: those of the cell (L, 1) of the default
+// beam under 250 mkN unless a case says otherwise.
+struct CifrasDeLaCelda {
+    std::string musr = "222.5";
+    std::string eps0 = "0.00";
+    std::string mlim;
+    std::string ess = "1.02";
+    std::string er = "9.64";
+};
+
+std::vector<Fila> ResultadosCon(char sep, const CifrasDeLaCelda& cifras)
 {
     return {
-        {"Momento último s/r:", Con("222.5 mkN", sep)},
-        {"Predeformación inicial:", Con("0.00 ‰", sep)},
+        {"Momento último s/r:", Con(cifras.musr + " mkN", sep)},
+        {"Predeformación inicial:", Con(cifras.eps0 + " ‰", sep)},
         {"M", Con("366.6 mkN", sep), "RB", "MRB"},
-        {"M", Con(mlim + " mkN", sep), "lím", "MRB"},
+        {"M", Con(cifras.mlim + " mkN", sep), "lím", "MRB"},
         {"Pivote:", "R"},
         {"Prof. fibra neutra:", Con("0.103 m", sep)},
         {"Def. hormigón:", Con("1.99‰", sep)},
         {"Def. armadura inferior:", Con("8.67‰", sep)},
-        {"Def. armadura superior:", Con("1.02‰", sep)},
-        {"Def. refuerzo:", Con("9.64‰", sep)},
+        {"Def. armadura superior:", Con(cifras.ess + "‰", sep)},
+        {"Def. refuerzo:", Con(cifras.er + "‰", sep)},
         {"Momento último c/r:", Con("238.5 mkN", sep)},
     };
 }
+
+std::vector<Fila> Resultados(char sep, const std::string& mlim) { return ResultadosCon(sep, {.mlim = mlim}); }
 
 // Page 1 up to its diagrams: frame, left block, right block.
 std::vector<Texto> Pagina1(const std::string& titulo, const std::vector<Fila>& datos,
@@ -239,34 +251,23 @@ TEST(InformeFlexion, LosTextosDeLosCamposSeLeenYSeFormateanDeNuevo)
     for (char sep : {'.', ','}) {
         SCOPED_TRACE(std::string("separador ") + sep);
         Proyecto p = Calculado(1, 250.0);
-        ResultadosCeldaFlexion celda = ResultadosFlexion(p.g, 1, 1, sep);
-        celda.tipo = std::string(kCelda) + "   ";
-        celda.MUSR = Con("222.449", sep);
-        celda.EPS0 = Con("0.5", sep);
-        celda.MRB = Con("366.55", sep);
-        celda.MLIMCR = "692";
-        celda.PIVOTE = " R ";
-        celda.FN = Con("0.1034", sep);
-        celda.EPSC = Con("1.985", sep);
-        celda.EPSSI = Con("8.666", sep);
-        celda.EPSSS = "1";
-        celda.EPSR = Con("9.6", sep);
-        celda.MU = Con(" 238.46 ", sep);
+        const ResultadosCeldaFlexion celda{.tipo = std::string(kCelda) + "   ",
+                                           .MUSR = Con("222.449", sep),
+                                           .EPS0 = Con("0.5", sep),
+                                           .MRB = Con("366.55", sep),
+                                           .MLIMCR = "692",
+                                           .PIVOTE = " R ",
+                                           .FN = Con("0.1034", sep),
+                                           .EPSC = Con("1.985", sep),
+                                           .EPSSI = Con("8.666", sep),
+                                           .EPSSS = "1",
+                                           .EPSR = Con("9.6", sep),
+                                           .MU = Con(" 238.46 ", sep)};
         Informe informe;
         Imprime(informe, p, false, celda, sep);
-        const std::vector<Fila> resultados{
-            {"Momento último s/r:", Con("222.4 mkN", sep)},
-            {"Predeformación inicial:", Con("0.50 ‰", sep)},
-            {"M", Con("366.6 mkN", sep), "RB", "MRB"},
-            {"M", Con("692.0 mkN", sep), "lím", "MRB"},
-            {"Pivote:", "R"},
-            {"Prof. fibra neutra:", Con("0.103 m", sep)},
-            {"Def. hormigón:", Con("1.99‰", sep)},
-            {"Def. armadura inferior:", Con("8.67‰", sep)},
-            {"Def. armadura superior:", Con("1.00‰", sep)},
-            {"Def. refuerzo:", Con("9.60‰", sep)},
-            {"Momento último c/r:", Con("238.5 mkN", sep)},
-        };
+        // The rows of the texts read and formatted anew: the rest as the real cell's.
+        const std::vector<Fila> resultados =
+            ResultadosCon(sep, {.musr = "222.4", .eps0 = "0.50", .mlim = "692.0", .ess = "1.00", .er = "9.60"});
         EsperaTextos(TextosAntesDeLosDiagramas(informe.impresora.operaciones),
                      Pagina1(kTituloRectangular, DatosGenerales(sep, false, "250.00"), resultados));
     }

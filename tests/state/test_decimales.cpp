@@ -1,8 +1,11 @@
 #include "state/Decimales.h"
 
+#include "comun/Tablas.h"
+
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <string>
 #include <string_view>
 
 namespace texalon {
@@ -10,61 +13,50 @@ namespace {
 
 // --- Decimales ---------------------------------------------------------------
 
-TEST(Decimales, ComaDecimalDaCeroVeinticinco) { EXPECT_DOUBLE_EQ(Decimales("0,25"), 0.25); }
+// A text and the value Decimales reads in it: each row is one case, named for what it shows.
+struct Lectura { const char* nombre; std::string_view texto; double valor; };
 
-TEST(Decimales, PuntoDecimalDaCeroVeinticinco) { EXPECT_DOUBLE_EQ(Decimales("0.25"), 0.25); }
+class LecturaDeDecimales : public ::testing::TestWithParam<Lectura> {};
 
-TEST(Decimales, MilesConComaDaUnoComaDosTresCuatro) { EXPECT_DOUBLE_EQ(Decimales("1.234,5"), 1.234); }
+TEST_P(LecturaDeDecimales, DaSuValor) { EXPECT_DOUBLE_EQ(Decimales(GetParam().texto), GetParam().valor); }
 
-TEST(Decimales, ComaMilesYPuntoDecimalSeCortaEnElSegundoPunto) { EXPECT_DOUBLE_EQ(Decimales("1,234.5"), 1.234); }
+// clang-format off
+const Lectura kLecturas[] = {
+    {"ComaDecimalDaCeroVeinticinco",                  "0,25",   0.25},
+    {"PuntoDecimalDaCeroVeinticinco",                 "0.25",   0.25},
+    {"MilesConComaDaUnoComaDosTresCuatro",            "1.234,5", 1.234},
+    {"ComaMilesYPuntoDecimalSeCortaEnElSegundoPunto", "1,234.5", 1.234},
+    {"TextoSinNumeroDaCero",                          "abc",    0.0},
+    {"PuntoInicialSinEntero",                         ".4",     0.4},
+    {"ComaInicialSinEntero",                          ",4",     0.4},
+    {"LetraFinalCortaLaLectura",                      "12a",    12.0},
+    {"TextoVacioDaCero",                              "",       0.0},
+    {"SoloBlancosDaCero",                             "   ",    0.0},
+    {"ExponenteE",                                    "1e2",    100.0},
+    {"ExponenteEMayusculaNegativo",                   "1E-3",   0.001},
+    {"ExponenteD",                                    "1D2",    100.0},
+    {"ExponenteDMinuscula",                           "2d3",    2000.0},
+    {"ExponenteSinDigitosSeIgnora",                   "1e",     1.0},
+    {"ExponenteConSignoSinDigitosSeIgnora",           "1e+",    1.0},
+    {"ExponenteConComaDecimal",                       "1,5e2",  150.0},
+    {"BlancoEntreDigitosSeSalta",                     "1 2",    12.0},
+    {"TabuladorYSaltoDeLineaSeSaltan",                "1\t2\n3", 123.0},
+    {"SignoMas",                                      "+4",     4.0},
+    {"DobleSignoDaCero",                              "--3",    0.0},
+    {"SegundoPuntoCortaLaLectura",                    "1.5.3",  1.5},
+    {"PuntoTrasExponenteCortaLaLectura",              "1e2.5",  100.0},
+    {"SoloPuntoDaCero",                               ".",      0.0},
+    {"ExponenteSinMantisaDaCero",                     "e5",     0.0},
+    {"BlancosFinalesNoCambianElValor",                "12  ",   12.0},
+    {"CerosInicialesNoCuentan",                       "000,5",  0.5},
+    {"ValorDemasiadoPequenoDaCero",                   "1e-999", 0.0},
+    // Negative values.
+    {"NegativoConComa",                               "-2,5",   -2.5},
+    {"BlancoTrasElSignoSeSalta",                      "- 3",    -3.0},
+};
+// clang-format on
 
-TEST(Decimales, TextoSinNumeroDaCero) { EXPECT_DOUBLE_EQ(Decimales("abc"), 0.0); }
-
-TEST(Decimales, NegativoConComa) { EXPECT_DOUBLE_EQ(Decimales("-2,5"), -2.5); }
-
-TEST(Decimales, PuntoInicialSinEntero) { EXPECT_DOUBLE_EQ(Decimales(".4"), 0.4); }
-
-TEST(Decimales, ComaInicialSinEntero) { EXPECT_DOUBLE_EQ(Decimales(",4"), 0.4); }
-
-TEST(Decimales, LetraFinalCortaLaLectura) { EXPECT_DOUBLE_EQ(Decimales("12a"), 12.0); }
-
-TEST(Decimales, TextoVacioDaCero) { EXPECT_DOUBLE_EQ(Decimales(""), 0.0); }
-
-TEST(Decimales, SoloBlancosDaCero) { EXPECT_DOUBLE_EQ(Decimales("   "), 0.0); }
-
-TEST(Decimales, ExponenteE) { EXPECT_DOUBLE_EQ(Decimales("1e2"), 100.0); }
-
-TEST(Decimales, ExponenteEMayusculaNegativo) { EXPECT_DOUBLE_EQ(Decimales("1E-3"), 0.001); }
-
-TEST(Decimales, ExponenteD) { EXPECT_DOUBLE_EQ(Decimales("1D2"), 100.0); }
-
-TEST(Decimales, ExponenteDMinuscula) { EXPECT_DOUBLE_EQ(Decimales("2d3"), 2000.0); }
-
-TEST(Decimales, ExponenteSinDigitosSeIgnora) { EXPECT_DOUBLE_EQ(Decimales("1e"), 1.0); }
-
-TEST(Decimales, ExponenteConSignoSinDigitosSeIgnora) { EXPECT_DOUBLE_EQ(Decimales("1e+"), 1.0); }
-
-TEST(Decimales, ExponenteConComaDecimal) { EXPECT_DOUBLE_EQ(Decimales("1,5e2"), 150.0); }
-
-TEST(Decimales, BlancoEntreDigitosSeSalta) { EXPECT_DOUBLE_EQ(Decimales("1 2"), 12.0); }
-
-TEST(Decimales, BlancoTrasElSignoSeSalta) { EXPECT_DOUBLE_EQ(Decimales("- 3"), -3.0); }
-
-TEST(Decimales, TabuladorYSaltoDeLineaSeSaltan) { EXPECT_DOUBLE_EQ(Decimales("1\t2\n3"), 123.0); }
-
-TEST(Decimales, SignoMas) { EXPECT_DOUBLE_EQ(Decimales("+4"), 4.0); }
-
-TEST(Decimales, DobleSignoDaCero) { EXPECT_DOUBLE_EQ(Decimales("--3"), 0.0); }
-
-TEST(Decimales, SegundoPuntoCortaLaLectura) { EXPECT_DOUBLE_EQ(Decimales("1.5.3"), 1.5); }
-
-TEST(Decimales, PuntoTrasExponenteCortaLaLectura) { EXPECT_DOUBLE_EQ(Decimales("1e2.5"), 100.0); }
-
-TEST(Decimales, SoloPuntoDaCero) { EXPECT_DOUBLE_EQ(Decimales("."), 0.0); }
-
-TEST(Decimales, ExponenteSinMantisaDaCero) { EXPECT_DOUBLE_EQ(Decimales("e5"), 0.0); }
-
-TEST(Decimales, BlancosFinalesNoCambianElValor) { EXPECT_DOUBLE_EQ(Decimales("12  "), 12.0); }
+INSTANTIATE_TEST_SUITE_P(Decimales, LecturaDeDecimales, ::testing::ValuesIn(kLecturas), prueba::NombreDeFila());
 
 // The cut keeps as many characters as the trimmed text has, counted from the
 // start of the text as typed, so leading blanks push the last digits out.
@@ -84,15 +76,11 @@ TEST(Decimales, ConversionCorrectamenteRedondeada)
     EXPECT_EQ(Decimales("0,000000000000000000001"), 1e-21);
 }
 
-TEST(Decimales, CerosInicialesNoCuentan) { EXPECT_DOUBLE_EQ(Decimales("000,5"), 0.5); }
-
 TEST(Decimales, DesbordeDaInfinitoPositivo) { EXPECT_EQ(Decimales("1e999"), HUGE_VAL); }
 
 TEST(Decimales, DesbordeNegativoDaInfinitoNegativo) { EXPECT_EQ(Decimales("-1e999"), -HUGE_VAL); }
 
 TEST(Decimales, DesbordeConComaDaInfinito) { EXPECT_EQ(Decimales("1,5e400"), HUGE_VAL); }
-
-TEST(Decimales, ValorDemasiadoPequenoDaCero) { EXPECT_DOUBLE_EQ(Decimales("1e-999"), 0.0); }
 
 TEST(Decimales, ExponenteConMuchasCifrasNoRompe)
 {
@@ -105,74 +93,50 @@ TEST(Decimales, SubnormalSeConserva) { EXPECT_EQ(Decimales("5e-324"), 5e-324); }
 
 // --- EsNumerico --------------------------------------------------------------
 
-TEST(EsNumerico, AceptaComaDecimal) { EXPECT_TRUE(EsNumerico("0,25")); }
+// A text and whether EsNumerico lets it through.
+struct Reconocimiento { const char* nombre; std::string_view texto; bool numerico; };
 
-TEST(EsNumerico, AceptaPuntoDecimal) { EXPECT_TRUE(EsNumerico("0.25")); }
+class TextoNumerico : public ::testing::TestWithParam<Reconocimiento> {};
 
-TEST(EsNumerico, AceptaNegativo) { EXPECT_TRUE(EsNumerico("-3")); }
+TEST_P(TextoNumerico, SeReconoce) { EXPECT_EQ(EsNumerico(GetParam().texto), GetParam().numerico); }
 
-TEST(EsNumerico, AceptaExponente) { EXPECT_TRUE(EsNumerico("1e2")); }
+// clang-format off
+const Reconocimiento kReconocimientos[] = {
+    {"AceptaComaDecimal",           "0,25",     true},
+    {"AceptaPuntoDecimal",          "0.25",     true},
+    {"AceptaNegativo",              "-3",       true},
+    {"AceptaExponente",             "1e2",      true},
+    {"AceptaBlancosAlrededor",      " 12 ",     true},
+    {"AceptaTabuladoresAlrededor",  "\t12\t",   true},
+    {"AceptaPuntoYComaMezclados",   "1.234,5",  true},
+    {"AceptaSignoMas",              "+4",       true},
+    {"AceptaExponenteNegativo",     "1E-3",     true},
+    {"AceptaExponenteD",            "2D3",      true},
+    {"AceptaSeparadorFinal",        "5.",       true},
+    {"AceptaValorMuyPequeno",       "1e-999",   true},
+    {"AceptaSeparadorInicialPunto", ".5",       true},
+    {"AceptaSeparadorInicialComa",  ",5",       true},
+    {"RechazaLetras",               "abc",      false},
+    {"RechazaLetraFinal",           "12a",      false},
+    {"RechazaTextoVacio",           "",         false},
+    {"RechazaSoloBlancos",          "   ",      false},
+    {"RechazaDobleSigno",           "--3",      false},
+    {"RechazaBlancoEntreDigitos",   "1 2",      false},
+    {"RechazaExponenteSinMantisa",  "e5",       false},
+    {"RechazaSoloSeparador",        ".",        false},
+    {"RechazaSoloSigno",            "-",        false},
+    {"RechazaDesbordeEntreBlancos", " 1e999 ",  false},
+    {"RechazaExponenteSinDigitos",  "1e",       false},
+    {"RechazaExponenteConSignoSinDigitos", "1e+",   false},
+    {"RechazaSeparadoresJuntos",    "1..2",     false},
+    {"RechazaComaYPuntoJuntos",     "1,.2",     false},
+    {"RechazaDesborde",             "1e999",    false},
+    {"RechazaDesbordeNegativo",     "-1e999",   false},
+    {"RechazaDesbordeConComa",      "1,5e400",  false},
+};
+// clang-format on
 
-TEST(EsNumerico, AceptaBlancosAlrededor) { EXPECT_TRUE(EsNumerico(" 12 ")); }
-
-TEST(EsNumerico, AceptaTabuladoresAlrededor) { EXPECT_TRUE(EsNumerico("\t12\t")); }
-
-TEST(EsNumerico, AceptaPuntoYComaMezclados) { EXPECT_TRUE(EsNumerico("1.234,5")); }
-
-TEST(EsNumerico, AceptaSignoMas) { EXPECT_TRUE(EsNumerico("+4")); }
-
-TEST(EsNumerico, AceptaExponenteNegativo) { EXPECT_TRUE(EsNumerico("1E-3")); }
-
-TEST(EsNumerico, AceptaExponenteD) { EXPECT_TRUE(EsNumerico("2D3")); }
-
-TEST(EsNumerico, AceptaSeparadorInicial)
-{
-    EXPECT_TRUE(EsNumerico(".5"));
-    EXPECT_TRUE(EsNumerico(",5"));
-}
-
-TEST(EsNumerico, AceptaSeparadorFinal) { EXPECT_TRUE(EsNumerico("5.")); }
-
-TEST(EsNumerico, AceptaValorMuyPequeno) { EXPECT_TRUE(EsNumerico("1e-999")); }
-
-TEST(EsNumerico, RechazaLetras) { EXPECT_FALSE(EsNumerico("abc")); }
-
-TEST(EsNumerico, RechazaLetraFinal) { EXPECT_FALSE(EsNumerico("12a")); }
-
-TEST(EsNumerico, RechazaTextoVacio) { EXPECT_FALSE(EsNumerico("")); }
-
-TEST(EsNumerico, RechazaSoloBlancos) { EXPECT_FALSE(EsNumerico("   ")); }
-
-TEST(EsNumerico, RechazaExponenteSinDigitos)
-{
-    EXPECT_FALSE(EsNumerico("1e"));
-    EXPECT_FALSE(EsNumerico("1e+"));
-}
-
-TEST(EsNumerico, RechazaDobleSigno) { EXPECT_FALSE(EsNumerico("--3")); }
-
-TEST(EsNumerico, RechazaSeparadoresJuntos)
-{
-    EXPECT_FALSE(EsNumerico("1..2"));
-    EXPECT_FALSE(EsNumerico("1,.2"));
-}
-
-TEST(EsNumerico, RechazaBlancoEntreDigitos) { EXPECT_FALSE(EsNumerico("1 2")); }
-
-TEST(EsNumerico, RechazaExponenteSinMantisa) { EXPECT_FALSE(EsNumerico("e5")); }
-
-TEST(EsNumerico, RechazaSoloSeparador) { EXPECT_FALSE(EsNumerico(".")); }
-
-TEST(EsNumerico, RechazaSoloSigno) { EXPECT_FALSE(EsNumerico("-")); }
-
-TEST(EsNumerico, RechazaDesborde)
-{
-    EXPECT_FALSE(EsNumerico("1e999"));
-    EXPECT_FALSE(EsNumerico("-1e999"));
-    EXPECT_FALSE(EsNumerico("1,5e400"));
-}
-
-TEST(EsNumerico, RechazaDesbordeEntreBlancos) { EXPECT_FALSE(EsNumerico(" 1e999 ")); }
+INSTANTIATE_TEST_SUITE_P(EsNumerico, TextoNumerico, ::testing::ValuesIn(kReconocimientos), prueba::NombreDeFila());
 
 // Whatever EsNumerico lets through, Decimales turns into a finite value once
 // the text is trimmed, as every caller trims it.

@@ -3,92 +3,55 @@
 #include "state/Decimales.h"
 #include "state/ErrorEjecucion.h"
 
+#include "comun/Tablas.h"
+
 #include <gtest/gtest.h>
 
 #include <cmath>
 #include <limits>
 #include <stdexcept>
+#include <string>
 
 namespace texalon {
 namespace {
 
-// --- Formato, decimal comma ----------------------------------------------------
+// --- Formato, decimal comma and decimal period ----------------------------------
 
-TEST(FormatoComa, MitadDeCentesimaSubeLejosDelCero) { EXPECT_EQ(Formato(0.125, "0.00", ','), "0,13"); }
+// A value, a pattern and the text Formato writes with each separator: one row a case.
+struct Redondeado { const char* nombre; double valor; const char* patron; const char* conComa; const char* conPunto; };
 
-TEST(FormatoComa, MitadSinDecimalesSube) { EXPECT_EQ(Formato(2.5, "0", ','), "3"); }
+class Redondeo : public ::testing::TestWithParam<Redondeado> {};
 
-TEST(FormatoComa, MitadNegativaSinDecimalesBaja) { EXPECT_EQ(Formato(-2.5, "0", ','), "-3"); }
+TEST_P(Redondeo, ConComa) { EXPECT_EQ(Formato(GetParam().valor, GetParam().patron, ','), GetParam().conComa); }
 
-TEST(FormatoComa, DosSeisSieteCincoRedondeaEnDecimal) { EXPECT_EQ(Formato(2.675, "0.00", ','), "2,68"); }
+TEST_P(Redondeo, ConPunto) { EXPECT_EQ(Formato(GetParam().valor, GetParam().patron, '.'), GetParam().conPunto); }
 
-TEST(FormatoComa, UnoCeroCeroCincoRedondeaEnDecimal) { EXPECT_EQ(Formato(1.005, "0.00", ','), "1,01"); }
+// clang-format off
+const Redondeado kRedondeos[] = {
+    {"MitadDeCentesimaSubeLejosDelCero",   0.125,        "0.00",     "0,13",        "0.13"},
+    {"MitadSinDecimalesSube",              2.5,          "0",        "3",           "3"},
+    {"DosSeisSieteCincoRedondeaEnDecimal", 2.675,        "0.00",     "2,68",        "2.68"},
+    {"UnoCeroCeroCincoRedondeaEnDecimal",  1.005,        "0.00",     "1,01",        "1.01"},
+    {"CompletaConCeros",                   0.4,          "0.000",    "0,400",       "0.400"},
+    {"AcarreoAgregaCifraEntera",           9.995,        "0.00",     "10,00",       "10.00"},
+    {"MitadDeMilesimaSube",                0.0005,       "0.000",    "0,001",       "0.001"},
+    {"CeroSinDecimales",                   0.0,          "0",        "0",           "0"},
+    {"CeroConUnDecimal",                   0.0,          "0.0",      "0,0",         "0.0"},
+    {"CeroConDosDecimales",                0.0,          "0.00",     "0,00",        "0.00"},
+    {"CeroConTresDecimales",               0.0,          "0.000",    "0,000",       "0.000"},
+    {"CeroConSeisDecimales",               0.0,          "0.000000", "0,000000",    "0.000000"},
+    {"ValorGrandeSinSeparadorDeMiles",     1234567.891,  "0.00",     "1234567,89",  "1234567.89"},
+    {"ValorEnormeMuestraTodasLasCifras",   1e20,         "0",        "100000000000000000000", "100000000000000000000"},
+    {"SeisDecimales",                      3.14159265,   "0.000000", "3,141593",    "3.141593"},
+    // Negative values.
+    {"MitadNegativaSinDecimalesBaja",      -2.5,         "0",        "-3",          "-3"},
+    {"NegativoQueRedondeaACeroSinSigno",   -0.001,       "0.00",     "0,00",        "0.00"},
+    {"CeroNegativoSinSigno",               -0.0,         "0.0",      "0,0",         "0.0"},
+    {"UnDecimalNegativo",                  -12.34,       "0.0",      "-12,3",       "-12.3"},
+};
+// clang-format on
 
-TEST(FormatoComa, CompletaConCeros) { EXPECT_EQ(Formato(0.4, "0.000", ','), "0,400"); }
-
-TEST(FormatoComa, AcarreoAgregaCifraEntera) { EXPECT_EQ(Formato(9.995, "0.00", ','), "10,00"); }
-
-TEST(FormatoComa, MitadDeMilesimaSube) { EXPECT_EQ(Formato(0.0005, "0.000", ','), "0,001"); }
-
-TEST(FormatoComa, NegativoQueRedondeaACeroSinSigno) { EXPECT_EQ(Formato(-0.001, "0.00", ','), "0,00"); }
-
-TEST(FormatoComa, CeroEnCadaPatron)
-{
-    EXPECT_EQ(Formato(0.0, "0", ','), "0");
-    EXPECT_EQ(Formato(0.0, "0.0", ','), "0,0");
-    EXPECT_EQ(Formato(0.0, "0.00", ','), "0,00");
-    EXPECT_EQ(Formato(0.0, "0.000", ','), "0,000");
-    EXPECT_EQ(Formato(0.0, "0.000000", ','), "0,000000");
-}
-
-TEST(FormatoComa, CeroNegativoSinSigno) { EXPECT_EQ(Formato(-0.0, "0.0", ','), "0,0"); }
-
-TEST(FormatoComa, ValorGrandeSinSeparadorDeMiles) { EXPECT_EQ(Formato(1234567.891, "0.00", ','), "1234567,89"); }
-
-TEST(FormatoComa, ValorEnormeMuestraTodasLasCifras) { EXPECT_EQ(Formato(1e20, "0", ','), "100000000000000000000"); }
-
-TEST(FormatoComa, SeisDecimales) { EXPECT_EQ(Formato(3.14159265, "0.000000", ','), "3,141593"); }
-
-TEST(FormatoComa, UnDecimalNegativo) { EXPECT_EQ(Formato(-12.34, "0.0", ','), "-12,3"); }
-
-// --- Formato, decimal period ---------------------------------------------------
-
-TEST(FormatoPunto, MitadDeCentesimaSubeLejosDelCero) { EXPECT_EQ(Formato(0.125, "0.00", '.'), "0.13"); }
-
-TEST(FormatoPunto, MitadSinDecimalesSube) { EXPECT_EQ(Formato(2.5, "0", '.'), "3"); }
-
-TEST(FormatoPunto, MitadNegativaSinDecimalesBaja) { EXPECT_EQ(Formato(-2.5, "0", '.'), "-3"); }
-
-TEST(FormatoPunto, DosSeisSieteCincoRedondeaEnDecimal) { EXPECT_EQ(Formato(2.675, "0.00", '.'), "2.68"); }
-
-TEST(FormatoPunto, UnoCeroCeroCincoRedondeaEnDecimal) { EXPECT_EQ(Formato(1.005, "0.00", '.'), "1.01"); }
-
-TEST(FormatoPunto, CompletaConCeros) { EXPECT_EQ(Formato(0.4, "0.000", '.'), "0.400"); }
-
-TEST(FormatoPunto, AcarreoAgregaCifraEntera) { EXPECT_EQ(Formato(9.995, "0.00", '.'), "10.00"); }
-
-TEST(FormatoPunto, MitadDeMilesimaSube) { EXPECT_EQ(Formato(0.0005, "0.000", '.'), "0.001"); }
-
-TEST(FormatoPunto, NegativoQueRedondeaACeroSinSigno) { EXPECT_EQ(Formato(-0.001, "0.00", '.'), "0.00"); }
-
-TEST(FormatoPunto, CeroEnCadaPatron)
-{
-    EXPECT_EQ(Formato(0.0, "0", '.'), "0");
-    EXPECT_EQ(Formato(0.0, "0.0", '.'), "0.0");
-    EXPECT_EQ(Formato(0.0, "0.00", '.'), "0.00");
-    EXPECT_EQ(Formato(0.0, "0.000", '.'), "0.000");
-    EXPECT_EQ(Formato(0.0, "0.000000", '.'), "0.000000");
-}
-
-TEST(FormatoPunto, CeroNegativoSinSigno) { EXPECT_EQ(Formato(-0.0, "0.0", '.'), "0.0"); }
-
-TEST(FormatoPunto, ValorGrandeSinSeparadorDeMiles) { EXPECT_EQ(Formato(1234567.891, "0.00", '.'), "1234567.89"); }
-
-TEST(FormatoPunto, ValorEnormeMuestraTodasLasCifras) { EXPECT_EQ(Formato(1e20, "0", '.'), "100000000000000000000"); }
-
-TEST(FormatoPunto, SeisDecimales) { EXPECT_EQ(Formato(3.14159265, "0.000000", '.'), "3.141593"); }
-
-TEST(FormatoPunto, UnDecimalNegativo) { EXPECT_EQ(Formato(-12.34, "0.0", '.'), "-12.3"); }
+INSTANTIATE_TEST_SUITE_P(Formato, Redondeo, ::testing::ValuesIn(kRedondeos), prueba::NombreDeFila());
 
 // --- Formato, general ---------------------------------------------------------
 

@@ -1,6 +1,7 @@
 #include "state/General.h"
 
 #include "comun/Proyectos.h"
+#include "comun/Tablas.h"
 
 #include <gtest/gtest.h>
 
@@ -9,38 +10,54 @@
 namespace texalon {
 namespace {
 
-TEST(General, ArranqueDejaCerosExactosYValoresPorDefecto)
+// A field that start-up writes, and its value: zeros exactly where the program counts on a
+// zero, and the defaults of the screens.
+struct ValorDeArranque { const char* nombre; double General::*campo; double valor; };
+
+class Arranque : public ::testing::TestWithParam<ValorDeArranque> {};
+
+TEST_P(Arranque, DejaSuValor)
 {
     General g;
     ValoresIniciales(g);
-    EXPECT_EQ(g.ASS, 0.0);
-    EXPECT_EQ(g.MCP, 0.0);
-    EXPECT_EQ(g.MD, 0.0);
-    EXPECT_EQ(g.NCP, 0.0);
-    EXPECT_EQ(g.INCR, 1.0);
-    EXPECT_EQ(g.ANCHOR, 0.125);
+    EXPECT_EQ(g.*GetParam().campo, GetParam().valor);
 }
 
-TEST(General, ArranqueDaTodosLosValoresPorDefecto)
+// clang-format off
+const ValorDeArranque kValoresDeArranque[] = {
+    // Exact zeros.
+    {"ASS",       &General::ASS,       0.0},
+    {"MCP",       &General::MCP,       0.0},
+    {"MD",        &General::MD,        0.0},
+    {"NCP",       &General::NCP,       0.0},
+    {"EPS0",      &General::EPS0,      0.0},
+    // The defaults.
+    {"INCR",      &General::INCR,      1.0},
+    {"ANCHOR",    &General::ANCHOR,    0.125},
+    {"GC",        &General::GC,        1.5},
+    {"GS",        &General::GS,        1.15},
+    {"GR",        &General::GR,        1.4},
+    {"FCK",       &General::FCK,       25.0},
+    {"FYK",       &General::FYK,       500.0},
+    {"NU",        &General::NU,        0.5},
+    {"ANCHO",     &General::ANCHO,     0.4},
+    {"CANTO",     &General::CANTO,     0.6},
+    {"ANCHOALMA", &General::ANCHOALMA, 0.2},
+    {"CANTOALA",  &General::CANTOALA,  0.2},
+    {"RECUB",     &General::RECUB,     0.05},
+    {"ASI",       &General::ASI,       10.0},
+    {"DIAM",      &General::DIAM,      0.5},
+    {"LADOMENOR", &General::LADOMENOR, 0.4},
+};
+// clang-format on
+
+INSTANTIATE_TEST_SUITE_P(General, Arranque, ::testing::ValuesIn(kValoresDeArranque), prueba::NombreDeFila());
+
+TEST(General, ArranqueDaLaSeccionYLosTamanosPorDefecto)
 {
     General g;
     ValoresIniciales(g);
-    EXPECT_EQ(g.GC, 1.5);
-    EXPECT_EQ(g.GS, 1.15);
-    EXPECT_EQ(g.GR, 1.4);
-    EXPECT_EQ(g.FCK, 25.0);
-    EXPECT_EQ(g.FYK, 500.0);
-    EXPECT_EQ(g.NU, 0.5);
-    EXPECT_EQ(g.ANCHO, 0.4);
-    EXPECT_EQ(g.CANTO, 0.6);
-    EXPECT_EQ(g.ANCHOALMA, 0.2);
-    EXPECT_EQ(g.CANTOALA, 0.2);
-    EXPECT_EQ(g.RECUB, 0.05);
-    EXPECT_EQ(g.ASI, 10.0);
-    EXPECT_EQ(g.EPS0, 0.0);
     EXPECT_EQ(g.SECCION, 1);
-    EXPECT_EQ(g.DIAM, 0.5);
-    EXPECT_EQ(g.LADOMENOR, 0.4);
     EXPECT_EQ(g.NTIPOS, 3);
     EXPECT_EQ(g.MAXCAPAS, 5);
 }
@@ -90,12 +107,7 @@ TEST(General, NuevaFlexionNoTocaLosCamposDeConfinamiento)
     const General ajeno = prueba::EstadoAjeno();
     General g = ajeno;
     ValoresFlexion(g);
-    EXPECT_EQ(g.SECCION, ajeno.SECCION);
-    EXPECT_EQ(g.DIAM, ajeno.DIAM);
-    EXPECT_EQ(g.LADOMENOR, ajeno.LADOMENOR);
-    EXPECT_EQ(g.NU, ajeno.NU);
-    EXPECT_EQ(g.INCR, ajeno.INCR);
-    EXPECT_EQ(g.NCP, ajeno.NCP);
+    prueba::EsperaMismosCampos(g, ajeno, {"SECCION", "DIAM", "LADOMENOR", "NU", "INCR", "NCP"});
 }
 
 TEST(General, NuevoConfinamientoEscribeSusValoresDeInicio)
@@ -112,10 +124,7 @@ TEST(General, NuevoConfinamientoNoTocaLosCamposDeFlexion)
     const General ajeno = prueba::EstadoAjeno();
     General g = ajeno;
     ValoresNuevoConfinamiento(g);
-    EXPECT_EQ(g.ANCHO, ajeno.ANCHO);
-    EXPECT_EQ(g.ASI, ajeno.ASI);
-    EXPECT_EQ(g.CANTO, ajeno.CANTO);
-    EXPECT_EQ(g.MD, ajeno.MD);
+    prueba::EsperaMismosCampos(g, ajeno, {"ANCHO", "ASI", "CANTO", "MD"});
 }
 
 TEST(General, ValoresDeConfinamientoDelLectorNoIncluyenNuNiFyk)
@@ -124,8 +133,7 @@ TEST(General, ValoresDeConfinamientoDelLectorNoIncluyenNuNiFyk)
     General g = ajeno;
     ValoresConfinamiento(g);
     prueba::EsperaValoresConfinamiento(g);
-    EXPECT_EQ(g.NU, ajeno.NU);
-    EXPECT_EQ(g.FYK, ajeno.FYK);
+    prueba::EsperaMismosCampos(g, ajeno, {"NU", "FYK"});
 }
 
 TEST(General, ElEstadoDelProcesoEsUnoSolo)
@@ -137,12 +145,7 @@ TEST(General, ElEstadoDelProcesoEsUnoSolo)
 TEST(General, BorraDibujoPoneLosSeisContadoresACero)
 {
     GeneralDibujo d;
-    d.NLINEA = 4;
-    d.NTIT = 3;
-    d.NBARRA = 2;
-    d.NPUNTO = 1;
-    d.NSECRECT = 5;
-    d.NSECCIR = 6;
+    static_cast<ContadoresDibujo&>(d) = {.NLINEA = 4, .NTIT = 3, .NBARRA = 2, .NPUNTO = 1, .NSECRECT = 5, .NSECCIR = 6};
     BorraDibujo(d);
     EXPECT_EQ(d.NLINEA + d.NTIT + d.NBARRA + d.NPUNTO + d.NSECRECT + d.NSECCIR, 0);
 }

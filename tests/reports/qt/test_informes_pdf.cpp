@@ -510,10 +510,18 @@ private slots:
             QVERIFY2(fallo.isEmpty(), qPrintable(fallo));
         };
 
-        verifica("REFUERZO A FLEXION EN SECCIONES RECTANGULARES", 2.0, 2.0);
-        verifica("DATOS GENERALES", 2.0, 4.0);
-        // The left block, one natural line apart from Y 5.0; the subscript rows by their main
-        // letter and their value.
+        // A block of rows one natural line apart from `y`: each label at `x`, and its value in the
+        // separator's form at `xValor`.
+        const auto verificaBloque = [&](const std::vector<std::pair<std::string, std::string>>& filas, double x,
+                                        double xValor, double y) {
+            for (std::size_t k = 0; k < filas.size(); ++k) {
+                verifica(filas[k].first, x, y + static_cast<double>(k) * linea);
+                verifica(Con(filas[k].second, separador), xValor, y + static_cast<double>(k) * linea);
+            }
+        };
+
+        // The rows of the left block, one natural line apart from Y 5.0, the subscript rows by their
+        // main letter and their value; and those of the right block, from Y 6.0.
         const std::vector<std::pair<std::string, std::string>> datos{
             {"Ancho:", "0.400 m"},
             {"Canto:", "0.600 m"},
@@ -528,15 +536,7 @@ private slots:
             {"Ancho del refuerzo:", "0.125 m"},
             {"Momento actual:", "0.00 mkN"},
             {"Mom. flector solicitante:", "250.00 mkN"},
-        };
-        for (std::size_t k = 0; k < datos.size(); ++k) {
-            const double y = 5.0 + static_cast<double>(k) * linea;
-            verifica(datos[k].first, 2.0, y);
-            verifica(Con(datos[k].second, separador), 6.5, y);
-        }
-        verifica("RESULTADOS DE LA SECCION", 10.5, 4.0);
-        verifica("Refuerzo tipo TEXALON L - Núm. capas: 1", 10.5, 5.0);
-        const std::vector<std::pair<std::string, std::string>> resultados{
+        }, resultados{
             {"Momento último s/r:", "222.5 mkN"},
             {"Predeformación inicial:", "0.00 ‰"},
             {"M", "366.6 mkN"},
@@ -549,11 +549,13 @@ private slots:
             {"Def. refuerzo:", "9.64‰"},
             {"Momento último c/r:", "238.5 mkN"},
         };
-        for (std::size_t k = 0; k < resultados.size(); ++k) {
-            const double y = 6.0 + static_cast<double>(k) * linea;
-            verifica(resultados[k].first, 10.5, y);
-            verifica(Con(resultados[k].second, separador), 15.0, y);
-        }
+
+        verifica("REFUERZO A FLEXION EN SECCIONES RECTANGULARES", 2.0, 2.0);
+        verifica("DATOS GENERALES", 2.0, 4.0);
+        verificaBloque(datos, 2.0, 6.5, 5.0);
+        verifica("RESULTADOS DE LA SECCION", 10.5, 4.0);
+        verifica("Refuerzo tipo TEXALON L - Núm. capas: 1", 10.5, 5.0);
+        verificaBloque(resultados, 10.5, 15.0, 6.0);
     }
 
 private:
