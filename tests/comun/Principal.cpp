@@ -5,10 +5,15 @@
 #include "state/General.h"
 
 #include <QAction>
-#include <QToolBar>
 #include <QTest>
+#include <QToolBar>
 
 namespace texalon::prueba {
+
+QString Mensaje(const QString& texto, plataforma::Estilo estilo)
+{
+    return QStringLiteral("%1 [%2]").arg(texto).arg(static_cast<int>(estilo));
+}
 
 MdiPrincipal& PruebaDePrincipal::Arranca(char separador)
 {
@@ -58,6 +63,14 @@ bool PruebaDePrincipal::Boton(const char* clave)
             return activo;
         }
     qFatal("no hay botón %s", clave);
+}
+
+QStringList PruebaDePrincipal::Mostrados() const
+{
+    QStringList lista;
+    for (const plataforma::MensajeMostrado& m : doble_->mensajes.mostrados)
+        lista << Mensaje(m.texto, m.estilo);
+    return lista;
 }
 
 Formulario* PruebaDePrincipal::Abierta() const

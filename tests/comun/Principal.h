@@ -7,6 +7,7 @@
 #include "shell/MdiPrincipal.h"
 
 #include <QString>
+#include <QStringList>
 #include <memory>
 
 namespace texalon {
@@ -14,6 +15,10 @@ class Formulario;
 }
 
 namespace texalon::prueba {
+
+// A message as the doubles recorded it, text and style together, so that a list of them
+// compares in one go and shows both when it differs.
+QString Mensaje(const QString& texto, plataforma::Estilo estilo);
 
 class PruebaDePrincipal : public QObject {
 protected:
@@ -33,6 +38,9 @@ protected:
     bool Orden(const char* nombre);
     // A click on the toolbar button of that key; tells whether it was available.
     bool Boton(const char* clave);
+
+    // The messages shown so far, each as Mensaje writes it.
+    QStringList Mostrados() const;
 
     // The screen open now; the child windows that have closed are gone by then.
     Formulario* Abierta() const;

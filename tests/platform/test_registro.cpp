@@ -1,9 +1,12 @@
 // The registry reader and the command lines of the PDF reader and the browser, over a registry
 // and a process starter that the tests write.
+#include "comun/Tablas.h"
 #include "platform/Registro.h"
 #include "platform/dobles/RegistroDoble.h"
 
 #include <gtest/gtest.h>
+#include <cstdint>
+#include <ostream>
 
 using namespace texalon::plataforma;
 
@@ -79,32 +82,35 @@ TEST_F(Registro, UnTextoSinCeroFinalSeLeeEntero)
     EXPECT_EQ(texto, "abc");
 }
 
-TEST_F(Registro, UnNumeroSeLeeDeSuUltimoByteAlPrimeroEnHexadecimal)
+// A number: its bytes read from the last to the first, in hexadecimal, then as a decimal.
+struct Numero {
+    const char* nombre;
+    std::uint32_t valor;
+    const char* texto;
+};
+
+void PrintTo(const Numero& numero, std::ostream* salida) { *salida << numero.nombre; }
+
+class RegistroNumero : public Registro, public ::testing::WithParamInterface<Numero> {};
+
+TEST_P(RegistroNumero, SeLeeComoTexto)
 {
-    // 0x12345678 is kept as 78 56 34 12; read backwards it is "12345678" in hexadecimal.
-    api.Escribe("SOFTWARE\\Clave", "n", ApiRegistroDoble::Numero(0x12345678u));
+    api.Escribe("SOFTWARE\\Clave", "n", ApiRegistroDoble::Numero(GetParam().valor));
     std::string texto;
     ASSERT_TRUE(LeeRegistro(api, kHkeyLocalMachine, "SOFTWARE\\Clave", "n", texto));
-    EXPECT_EQ(texto, "305419896");
+    EXPECT_EQ(texto, GetParam().texto);
 }
 
-TEST_F(Registro, UnNumeroCuyoUltimoByteEsCeroLoPierdeYSusBytesNoLlevanCerosALaIzquierda)
-{
-    // 266 is 0A 01 00 00: the closing zero goes as a text's would, and the bytes read back as
-    // "0", "1" and "A", without padding: "&h01A" is 26.
-    api.Escribe("SOFTWARE\\Clave", "n", ApiRegistroDoble::Numero(266u));
-    std::string texto;
-    ASSERT_TRUE(LeeRegistro(api, kHkeyLocalMachine, "SOFTWARE\\Clave", "n", texto));
-    EXPECT_EQ(texto, "26");
-}
-
-TEST_F(Registro, UnNumeroDeOchoCifrasHexadecimalesConElBitAltoEsNegativo)
-{
-    api.Escribe("SOFTWARE\\Clave", "n", ApiRegistroDoble::Numero(0xFFFFFFFFu));
-    std::string texto;
-    ASSERT_TRUE(LeeRegistro(api, kHkeyLocalMachine, "SOFTWARE\\Clave", "n", texto));
-    EXPECT_EQ(texto, "-1");
-}
+INSTANTIATE_TEST_SUITE_P(Registro, RegistroNumero,
+                         ::testing::Values(
+                             // 0x12345678 is kept as 78 56 34 12; read backwards it is "12345678" in hexadecimal.
+                             Numero{"UnNumeroSeLeeDeSuUltimoByteAlPrimeroEnHexadecimal", 0x12345678u, "305419896"},
+                             // 266 is 0A 01 00 00: the closing zero goes as a text's would, and the bytes read back
+                             // as "0", "1" and "A", without padding: "&h01A" is 26.
+                             Numero{"UnNumeroCuyoUltimoByteEsCeroLoPierdeYSusBytesNoLlevanCerosALaIzquierda", 266u,
+                                    "26"},
+                             Numero{"UnNumeroDeOchoCifrasHexadecimalesConElBitAltoEsNegativo", 0xFFFFFFFFu, "-1"}),
+                         texalon::prueba::NombreDeFila());
 
 TEST_F(Registro, UnValorDeOtroTipoDejaElTextoComoLlego)
 {
@@ -145,10 +151,7 @@ TEST(LineaDeOrden, UnaOrdenQueAcabaEnExeLaConservaEntera)
               R"(C:\NAVEGA\navega.exewww.velmora.example)");
 }
 
-TEST(LineaDeOrden, SeBuscaElPrimerExe)
-{
-    EXPECT_EQ(LineaDeOrden(R"(C:\a.exe\b.exe -x)", "f"), R"(C:\a.exe\f)");
-}
+TEST(LineaDeOrden, SeBuscaElPrimerExe) { EXPECT_EQ(LineaDeOrden(R"(C:\a.exe\b.exe -x)", "f"), R"(C:\a.exe\f)"); }
 
 // AbrePdfPorRegistro and AbreWebPorRegistro
 

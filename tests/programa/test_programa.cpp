@@ -97,20 +97,20 @@ constexpr Dato kCoeficientes[] = {
 };
 
 // The data rows of the report, label and value, for the project above.
-const std::vector<std::pair<QString, QString>> kDatosImpresos = {
-    {QStringLiteral("Ancho:"), QStringLiteral("0,350 m")},
-    {QStringLiteral("Canto:"), QStringLiteral("0,650 m")},
-    {QStringLiteral("Recubrimiento:"), QStringLiteral("0,045 m")},
-    {QStringLiteral("Armadura inferior:"), QStringLiteral("12,50 cm²")},
-    {QStringLiteral("Armadura superior:"), QStringLiteral("3,20 cm²")},
-    {QStringLiteral("f|ck"), QStringLiteral("35 N/mm²")},
-    {QStringLiteral("f|yk"), QStringLiteral("450 N/mm²")},
-    {QStringLiteral("Coef. seg. hormigón:"), QStringLiteral("1,60")},
-    {QStringLiteral("Coef. seg. acero:"), QStringLiteral("1,20")},
-    {QStringLiteral("Coef. seg. TEXALON®:"), QStringLiteral("1,30")},
-    {QStringLiteral("Ancho del refuerzo:"), QStringLiteral("0,250 m")},
-    {QStringLiteral("Momento actual:"), QStringLiteral("25,00 mkN")},
-    {QStringLiteral("Mom. flector solicitante:"), QStringLiteral("340,50 mkN")},
+const std::pair<const char*, const char*> kDatosImpresos[] = {
+    {"Ancho:", "0,350 m"},
+    {"Canto:", "0,650 m"},
+    {"Recubrimiento:", "0,045 m"},
+    {"Armadura inferior:", "12,50 cm²"},
+    {"Armadura superior:", "3,20 cm²"},
+    {"f|ck", "35 N/mm²"},
+    {"f|yk", "450 N/mm²"},
+    {"Coef. seg. hormigón:", "1,60"},
+    {"Coef. seg. acero:", "1,20"},
+    {"Coef. seg. TEXALON®:", "1,30"},
+    {"Ancho del refuerzo:", "0,250 m"},
+    {"Momento actual:", "25,00 mkN"},
+    {"Mom. flector solicitante:", "340,50 mkN"},
 };
 
 // The cell chosen for the report: TEXALON H with two layers, which reaches the design moment.
@@ -655,9 +655,11 @@ class PruebaPrograma : public QObject {
         QVERIFY(EnLineas(pagina1, QStringLiteral("Página 1")));
         QVERIFY(EnLineas(pagina2, QStringLiteral("Página 2")));
 
-        for (const auto& [etiqueta, valor] : kDatosImpresos)
+        for (const auto& [etiquetaUtf8, valor] : kDatosImpresos) {
+            const QString etiqueta = QString::fromUtf8(etiquetaUtf8);
             QVERIFY2(FilaEnLineas(pagina1, etiqueta, Sep(valor)),
                      qPrintable(QStringLiteral("«%1 %2» no está en la página 1:\n%3").arg(etiqueta, Sep(valor), todo)));
+        }
 
         QVERIFY2(EnLineas(pagina1, tipo),
                  qPrintable(QStringLiteral("«%1» no está en la página 1:\n%2").arg(tipo, todo)));
@@ -684,6 +686,13 @@ class PruebaPrograma : public QObject {
         QCOMPARE(pagina2.join(QLatin1Char(' ')).count(QStringLiteral("DIAGRAMA DE MOMENTOS ULTIMOS")), 2);
     }
 
+    // The user's steps in turn, each one while none before has failed.
+    template <class... Pasos>
+    static void EnOrden(Pasos&&... pasos)
+    {
+        static_cast<void>((... && (pasos(), !QTest::currentTestFailed())));
+    }
+
 private slots:
     void initTestCase()
     {
@@ -706,30 +715,19 @@ private slots:
         QElapsedTimer reloj;
         reloj.start();
 
-        // A new project, typed, calculated and drawn.
-        AbreFlexionNueva();
-        if (QTest::currentTestFailed()) return;
-        qInfo("separador decimal de la máquina: «%c»", separador_);
-        TecleaProyecto();
-        if (QTest::currentTestFailed()) return;
-        prueba::Pulsa(C("CM_CALCULAR"));
-        CompruebaRejilla();
-        if (QTest::currentTestFailed()) return;
-        CompruebaDiagramas();
-        if (QTest::currentTestFailed()) return;
-
-        // Saved, closed, and the program ended.
-        GuardaComo(proyecto);
-        if (QTest::currentTestFailed()) return;
-        CierraLaPantalla();
-        if (QTest::currentTestFailed()) return;
-        Sale();
-        if (QTest::currentTestFailed()) return;
-
-        // The program again, with the project on its command line.
-        AbreElFicheroAlArrancar(proyecto);
-        if (QTest::currentTestFailed()) return;
-        CalculaYEligeCelda();
+        // A new project, typed, calculated and drawn; saved, closed, and the program ended; the
+        // program again, with the project on its command line.
+        EnOrden([this] { AbreFlexionNueva(); },
+                [this] {
+                    qInfo("separador decimal de la máquina: «%c»", separador_);
+                    TecleaProyecto();
+                },
+                [this] {
+                    prueba::Pulsa(C("CM_CALCULAR"));
+                    CompruebaRejilla();
+                },
+                [this] { CompruebaDiagramas(); }, [&] { GuardaComo(proyecto); }, [this] { CierraLaPantalla(); },
+                [this] { Sale(); }, [&] { AbreElFicheroAlArrancar(proyecto); }, [this] { CalculaYEligeCelda(); });
         if (QTest::currentTestFailed()) return;
         const QString tipo = Tipo();
         const std::map<QString, QString> resultados = Resultados();

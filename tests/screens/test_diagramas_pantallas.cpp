@@ -1,6 +1,7 @@
 // The diagrams as the user meets them on the screens: the chart that each Calculate leaves, the
 // diagram buttons, the strain diagram that follows the grid, the characteristics chart of each
 // option, the zoom with the mouse, and the counters cleared by the close.
+#include "comun/Filas.h"
 #include "comun/Pantallas.h"
 #include "comun/Usuario.h"
 #include "diagrams/Lista.h"
@@ -64,7 +65,8 @@ class PruebaDiagramasPantallas : public prueba::PruebaDePantalla {
                 const QPoint p(qRound(punto.x()) + dx, qRound(punto.y()) + dy);
                 if (!imagen.rect().contains(p)) continue;
                 const QColor pintado = imagen.pixelColor(p);
-                const int distancia = std::abs(pintado.red() - color.red()) + std::abs(pintado.green() - color.green()) +
+                const int distancia = std::abs(pintado.red() - color.red()) +
+                                      std::abs(pintado.green() - color.green()) +
                                       std::abs(pintado.blue() - color.blue());
                 if (distancia <= 60) return true;
             }
@@ -123,9 +125,7 @@ private slots:
 
     void calcularFlexionDejaElDiagramaDeMomentosPorCapas_data()
     {
-        QTest::addColumn<bool>("seccionT");
-        QTest::newRow("rectangular") << false;
-        QTest::newRow("T") << true;
+        prueba::DosFilas("seccionT", {"rectangular", false}, {"T", true});
     }
 
     void calcularFlexionDejaElDiagramaDeMomentosPorCapas()
@@ -140,7 +140,8 @@ private slots:
         QVERIFY(Textos("PIC_FLEXION").contains(QStringLiteral("DIAGRAMA DE MOMENTOS ULTIMOS")));
         QVERIFY(Textos("PIC_FLEXION").contains(QStringLiteral("Nº capas")));
         QVERIFY(d.NLINEA > 0);
-        QCOMPARE(static_cast<int>(Dibujo("PIC_FLEXION")->Escena().Elementos(ClasePantalla::Linea).size()), int(d.NLINEA));
+        QCOMPARE(static_cast<int>(Dibujo("PIC_FLEXION")->Escena().Elementos(ClasePantalla::Linea).size()),
+                 int(d.NLINEA));
         QCOMPARE(static_cast<int>(Dibujo("PIC_FLEXION")->Escena().Elementos(ClasePantalla::Tit).size()), int(d.NTIT));
         // The fit used the picture's own size.
         QCOMPARE(d.ANCHOPIC, double(kPicFlexion.tamano.ancho));
@@ -412,7 +413,8 @@ private slots:
         const QImage seccion = Pintado("PIC_FLEXION");
         const ElementoPantalla ampliada = dibujo->Escena().Elementos(ClasePantalla::Barra).back();
         QVERIFY(ampliada.alto >= 4);
-        QVERIFY(ColorCerca(seccion, QPointF(ampliada.izquierda + ampliada.ancho / 2, ampliada.arriba + ampliada.alto / 2),
+        QVERIFY(ColorCerca(seccion,
+                           QPointF(ampliada.izquierda + ampliada.ancho / 2, ampliada.arriba + ampliada.alto / 2),
                            QColor(255, 0, 0)));
 
         Abre<FmConfina>();
@@ -433,7 +435,8 @@ private slots:
         QCOMPARE(int(formas.size()), 2);
         const ElementoPantalla& hormigon = formas[0];
         const ElementoPantalla& refuerzo = formas[1];
-        QVERIFY(ColorCerca(columna, QPointF(hormigon.izquierda + hormigon.ancho / 2, hormigon.arriba + hormigon.alto / 2),
+        QVERIFY(ColorCerca(columna,
+                           QPointF(hormigon.izquierda + hormigon.ancho / 2, hormigon.arriba + hormigon.alto / 2),
                            QColor(192, 192, 192)));
         QVERIFY(ColorCerca(columna, QPointF(refuerzo.izquierda + 1.5, refuerzo.arriba + refuerzo.alto / 2),
                            QColor(255, 0, 0)));

@@ -1,8 +1,10 @@
+#include "comun/Ejecuta.h"
+#include "comun/Filas.h"
+#include "comun/Pantallas.h"
 #include "engine/Calculos.h"
 #include "platform/dobles/PlataformaDoble.h"
 #include "screens/FmAnclaje.h"
 #include "screens/RejillaResultados.h"
-#include "shell/Aplicacion.h"
 #include "state/General.h"
 
 #include <QLabel>
@@ -102,26 +104,25 @@ private slots:
             QCOMPARE(rejilla.Texto(capas, 0), QString::number(capas));
     }
 
-    void longitudesConComaDecimal()
+    void longitudesConElSeparadorDeLaMaquina_data()
     {
-        PlataformaDoble doble;
-        doble.regional.separador = ',';
-        FmAnclaje ventana;
-        const RejillaResultados& rejilla = Tabla(ventana);
-        // 0.111 × 0.001 × 230000 × 0.00964286 / 1.79547 = 0.13711
-        QCOMPARE(rejilla.Texto(1, 1), QStringLiteral("0,14 m"));
-        // 5 × 0.163 × 0.001 × 440000 × 0.00117222 / 1.79547 = 0.23412
-        QCOMPARE(rejilla.Texto(5, 3), QStringLiteral("0,23 m"));
+        prueba::Columnas<char, QStringList>({"separador", "celdas"});
+        QTest::newRow("coma") << ',' << QStringList({"0,14 m", "0,23 m"});
+        QTest::newRow("punto") << '.' << QStringList({"0.14 m", "0.23 m"});
     }
 
-    void longitudesConPuntoDecimal()
+    // One layer of type L, and five of type X:
+    // 0.111 × 0.001 × 230000 × 0.00964286 / 1.79547 = 0.13711
+    // 5 × 0.163 × 0.001 × 440000 × 0.00117222 / 1.79547 = 0.23412
+    void longitudesConElSeparadorDeLaMaquina()
     {
+        QFETCH(char, separador);
+        QFETCH(QStringList, celdas);
         PlataformaDoble doble;
-        doble.regional.separador = '.';
+        doble.regional.separador = separador;
         FmAnclaje ventana;
         const RejillaResultados& rejilla = Tabla(ventana);
-        QCOMPARE(rejilla.Texto(1, 1), QStringLiteral("0.14 m"));
-        QCOMPARE(rejilla.Texto(5, 3), QStringLiteral("0.23 m"));
+        QCOMPARE(QStringList({rejilla.Texto(1, 1), rejilla.Texto(5, 3)}), celdas);
     }
 
     void cadaCeldaEsLaLongitudDelEstado()
@@ -201,29 +202,16 @@ private slots:
     {
         PlataformaDoble doble;
         General& g = Estado();
-        g.ANCHO = 0.3;
-        g.CANTO = 0.5;
-        g.ASI = 8.0;
-        g.ANCHOR = 0.1;
+        prueba::EscribeValores(g, QStringLiteral("ANCHO=0.3;CANTO=0.5;ASI=8;ANCHOR=0.1"));
         LongitudAnclaje(g);
         const QStringList primera = Textos(Tabla(FmAnclaje()));
-        g.ANCHO = 1.2;
-        g.CANTO = 0.9;
-        g.ASI = 30.0;
-        g.ANCHOR = 0.3;
-        g.ANCHOALMA = 0.35;
+        prueba::EscribeValores(g, QStringLiteral("ANCHO=1.2;CANTO=0.9;ASI=30;ANCHOR=0.3;ANCHOALMA=0.35"));
         LongitudAnclaje(g);
         const QStringList segunda = Textos(Tabla(FmAnclaje()));
         QCOMPARE(segunda, primera);
     }
 };
 
-int main(int argc, char** argv)
-{
-    AplicacionTexalon aplicacion(argc, argv);
-    PreparaAplicacion(aplicacion);
-    PruebaFmAnclaje prueba;
-    return QTest::qExec(&prueba, argc, argv);
-}
+int main(int argc, char** argv) { return prueba::Ejecuta<PruebaFmAnclaje>(argc, argv); }
 
 #include "test_fm_anclaje.moc"

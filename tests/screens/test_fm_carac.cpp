@@ -35,9 +35,7 @@ class PruebaCarac : public prueba::PruebaDePantalla {
         Estado().GR = gr;
         NuevosDobles(separador);
         pantalla_ = new FmCarac;
-        pantalla_->show();
-        pantalla_->activateWindow();
-        if (!QTest::qWaitForWindowActive(pantalla_)) qWarning("la pantalla no se ha activado");
+        MuestraActiva(pantalla_);
         return *pantalla_;
     }
 
@@ -68,9 +66,9 @@ private slots:
     void alAbrirMuestraElTipoUno()
     {
         QFETCH(char, separador);
-        FmCarac& p = Abre(separador);
-        QCOMPARE(p.objectName(), QStringLiteral("FM_CARAC"));
-        QCOMPARE(p.windowTitle(), QStringLiteral("Características mecánicas del refuerzo"));
+        const FmCarac& p = Abre(separador);
+        QCOMPARE(QStringList({p.objectName(), p.windowTitle()}),
+                 QStringList({"FM_CARAC", "Características mecánicas del refuerzo"}));
         QVERIFY(Estado().F_CARAC);
         QCOMPARE(p.findChild<QGroupBox*>(QStringLiteral("FR_TEXALON"))->title(),
                  QStringLiteral("Características del refuerzo TEXALON"));

@@ -1,15 +1,16 @@
+#include "comun/Ejecuta.h"
+#include "comun/Filas.h"
 #include "platform/dobles/PlataformaDoble.h"
 #include "screens/FmCoef.h"
-#include "shell/Aplicacion.h"
 #include "state/General.h"
 
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QTest>
 #include <QTextBlock>
 #include <QTextCursor>
 #include <QTextDocument>
-#include <QTest>
 #include <memory>
 #include <vector>
 
@@ -70,6 +71,13 @@ class PruebaCoef : public QObject {
 
     void Tabula(const char* nombre) { QTest::keyClick(Campo(nombre), Qt::Key_Tab); }
 
+    // Teclea, then Tab out of the field.
+    void Escribe(const char* nombre, const QString& texto)
+    {
+        Teclea(nombre, texto);
+        Tabula(nombre);
+    }
+
     void Pulsa(const char* nombre) { QTest::mouseClick(Boton(nombre), Qt::LeftButton); }
 
     const std::vector<MensajeMostrado>& Mensajes() const { return doble_->mensajes.mostrados; }
@@ -93,6 +101,39 @@ class PruebaCoef : public QObject {
         QCOMPARE(QApplication::focusWidget(), campo);
         QCOMPARE(campo->text(), texto);
         QCOMPARE(campo->selectedText(), texto);
+    }
+
+    // The project's coefficients GC, GS and GR are these.
+    static void CompruebaCoeficientes(double gc, double gs, double gr)
+    {
+        QCOMPARE(Estado().GC, gc);
+        QCOMPARE(Estado().GS, gs);
+        QCOMPARE(Estado().GR, gr);
+    }
+
+    // Tab from whatever has the focus, that many times.
+    static void TabulaDesdeElFoco(int veces)
+    {
+        for (int i = 0; i < veces; ++i)
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    }
+
+    // Tab from the first field to the button, that many steps, then the space bar on it; the
+    // flags cleared just before, so that only the button can mark them.
+    void LlegaConTabYPulsa(int pasos, const char* boton)
+    {
+        TabulaDesdeElFoco(pasos);
+        QCOMPARE(QApplication::focusWidget(), Boton(boton));
+        LimpiaBanderas();
+        QTest::keyClick(Boton(boton), Qt::Key_Space);
+    }
+
+    // A click on Restablecer, then back with the keys to Aceptar, no field passed on the way.
+    void VuelveAAceptar()
+    {
+        QTest::mouseClick(Boton("CM_RESTAURAR"), Qt::LeftButton);
+        QTest::keyClick(Boton("CM_RESTAURAR"), Qt::Key_Backtab);
+        QTest::keyClick(Boton("CM_CANCELAR"), Qt::Key_Backtab);
     }
 
     static void DatosSeparador()
@@ -227,37 +268,47 @@ private slots:
         QVERIFY(BanderasIntactas());
     }
 
-    void abrirYCancelarSinTocarNoCambiaNada()
+    // The ways out other than Aceptar, after the user has done nothing, passed TX_GC with Tab,
+    // clicked into TX_GS and typed over it, or written over TX_GC with no check to see it.
+    void salirSinAceptarNoCambiaLosCoeficientes_data()
     {
-        QVERIFY(Abre(','));
-        Pulsa("CM_CANCELAR");
-        QVERIFY(!dialogo_->isVisible());
-        QCOMPARE(dialogo_->result(), int(QDialog::Rejected));
-        QVERIFY(EstadoIntacto());
-        QVERIFY(BanderasIntactas());
-        QVERIFY(Mensajes().empty());
+        prueba::Columnas<QString, QString, QString, bool>({"antes", "texto", "salida", "marcado"});
+        const auto fila = [](const char* caso, const char* antes, const char* texto, const char* salida, bool marcado) {
+            QTest::newRow(caso) << antes << texto << salida << marcado;
+        };
+        fila("abrir y Cancelar sin tocar", "", "", "Cancelar", false);
+        fila("Tab de GC a GS y Cancelar marca el proyecto", "Tab", "", "Cancelar", true);
+        fila("Cancelar con un campo mal sale sin mensaje", "clic en TX_GS", "abc", "Cancelar", true);
+        fila("Escape es Cancelar sin probar el campo", "TX_GC", "abc", "Escape", false);
+        fila("cerrar la ventana es Cancelar", "TX_GC", "2", "cerrar", false);
     }
 
-    void tabDeGcAGsYCancelarMarcaElProyecto()
+    void salirSinAceptarNoCambiaLosCoeficientes()
     {
+        QFETCH(QString, antes);
+        QFETCH(QString, texto);
+        QFETCH(QString, salida);
+        QFETCH(bool, marcado);
         QVERIFY(Abre(','));
-        Tabula("TX_GC");
-        QCOMPARE(QApplication::focusWidget(), Campo("TX_GS"));
-        Pulsa("CM_CANCELAR");
-        QCOMPARE(dialogo_->result(), int(QDialog::Rejected));
-        QVERIFY(EstadoIntacto());
-        QVERIFY(BanderasDeCambio());
-        QVERIFY(Mensajes().empty());
-    }
-
-    void cancelarConUnCampoMalSaleSinMensaje()
-    {
-        QVERIFY(Abre(','));
-        Teclea("TX_GS", QStringLiteral("abc"));
-        Pulsa("CM_CANCELAR");
+        if (antes == QLatin1String("Tab")) {
+            Tabula("TX_GC");
+            QCOMPARE(QApplication::focusWidget(), Campo("TX_GS"));
+        } else if (antes == QLatin1String("clic en TX_GS")) {
+            Teclea("TX_GS", texto);
+        } else if (!antes.isEmpty()) {
+            Campo(qPrintable(antes))->setText(texto);
+        }
+        if (salida == QLatin1String("Cancelar"))
+            Pulsa("CM_CANCELAR");
+        else if (salida == QLatin1String("Escape"))
+            QTest::keyClick(Campo("TX_GC"), Qt::Key_Escape);
+        else
+            QVERIFY(dialogo_->close());
         QVERIFY(!dialogo_->isVisible());
+        QCOMPARE(dialogo_->result(), int(QDialog::Rejected));
         QVERIFY(Mensajes().empty());
         QVERIFY(EstadoIntacto());
+        QVERIFY(marcado ? BanderasDeCambio() : BanderasIntactas());
     }
 
     void gcDe09SeRechazaY1SeAcepta_data() { DatosSeparador(); }
@@ -267,8 +318,7 @@ private slots:
         QFETCH(char, separador);
         QVERIFY(Abre(separador));
         const QString nueveDecimas = ConSeparador(QStringLiteral("0,9"), separador);
-        Teclea("TX_GC", nueveDecimas);
-        Tabula("TX_GC");
+        Escribe("TX_GC", nueveDecimas);
         QCOMPARE(Mensajes().size(), std::size_t{1});
         QCOMPARE(Mensajes()[0].texto, Texto("El coeficiente de seguridad del hormigón no puede ser menor que 1."));
         QVERIFY(Mensajes()[0].estilo == Estilo::Parada);
@@ -291,8 +341,7 @@ private slots:
     {
         QFETCH(char, separador);
         QVERIFY(Abre(separador));
-        Teclea("TX_GR", ConSeparador(QStringLiteral("-1,2"), separador));
-        Tabula("TX_GR");
+        Escribe("TX_GR", ConSeparador(QStringLiteral("-1,2"), separador));
         QVERIFY(Mensajes().empty());
         QCOMPARE(Campo("TX_GR")->text(), ConSeparador(QStringLiteral("1,20"), separador));
         QCOMPARE(QApplication::focusWidget(), Boton("CM_ACEPTAR"));
@@ -348,8 +397,7 @@ private slots:
     void elMensajeVuelveCadaVezQueSeSale()
     {
         QVERIFY(Abre(','));
-        Teclea("TX_GC", QString());
-        Tabula("TX_GC");
+        Escribe("TX_GC", QString());
         Tabula("TX_GC");
         QCOMPARE(Mensajes().size(), std::size_t{2});
         QCOMPARE(Mensajes()[1].texto, Texto("Debe darse el coeficiente de seguridad del hormigón."));
@@ -382,8 +430,7 @@ private slots:
         QFETCH(QString, entrada);
         QFETCH(QString, escrito);
         QVERIFY(Abre(separador));
-        Teclea("TX_GS", entrada);
-        Tabula("TX_GS");
+        Escribe("TX_GS", entrada);
         QVERIFY(Mensajes().empty());
         QCOMPARE(Campo("TX_GS")->text(), escrito);
         QCOMPARE(QApplication::focusWidget(), Campo("TX_GR"));
@@ -450,19 +497,13 @@ private slots:
         // Only the keyboard reaches the buttons without a field losing the focus afterwards:
         // Tab to Restablecer, then back to Aceptar.
         QVERIFY(Abre(','));
-        for (int i = 0; i < 5; ++i)
-            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
-        QCOMPARE(QApplication::focusWidget(), Boton("CM_RESTAURAR"));
-        LimpiaBanderas();
-        QTest::keyClick(Boton("CM_RESTAURAR"), Qt::Key_Space);
+        LlegaConTabYPulsa(5, "CM_RESTAURAR");
         QTest::keyClick(Boton("CM_RESTAURAR"), Qt::Key_Backtab);
         QTest::keyClick(Boton("CM_CANCELAR"), Qt::Key_Backtab);
         QCOMPARE(QApplication::focusWidget(), Boton("CM_ACEPTAR"));
         QTest::keyClick(Boton("CM_ACEPTAR"), Qt::Key_Space);
         QCOMPARE(dialogo_->result(), int(QDialog::Accepted));
-        QCOMPARE(Estado().GC, 1.5);
-        QCOMPARE(Estado().GS, 1.15);
-        QCOMPARE(Estado().GR, 1.4);
+        CompruebaCoeficientes(1.5, 1.15, 1.4);
         QVERIFY(BanderasIntactas());
     }
 
@@ -485,15 +526,14 @@ private slots:
         QFETCH(QString, texto);
         QFETCH(QString, mensaje);
         QVERIFY(Abre(','));
-        const QByteArray nombre = campo.toLatin1();
-        Teclea(nombre.constData(), texto);
+        Teclea(qPrintable(campo), texto);
         Pulsa("CM_ACEPTAR");
         QCOMPARE(Mensajes().size(), std::size_t{1});
         QCOMPARE(Mensajes()[0].texto, mensaje);
         QVERIFY(Mensajes()[0].estilo == Estilo::Parada);
         QVERIFY(dialogo_->isVisible());
         QCOMPARE(dialogo_->result(), int(QDialog::Rejected));
-        CompruebaDevuelto(nombre.constData(), texto);
+        CompruebaDevuelto(qPrintable(campo), texto);
         QVERIFY(EstadoIntacto());
         QVERIFY(doble_->proceso.erroresFatales.empty());
     }
@@ -504,10 +544,8 @@ private slots:
     {
         QFETCH(char, separador);
         QVERIFY(Abre(separador));
-        Teclea("TX_GC", ConSeparador(QStringLiteral("1,60"), separador));
-        Tabula("TX_GC");
-        Teclea("TX_GS", QStringLiteral("1,3"));
-        Tabula("TX_GS");
+        Escribe("TX_GC", ConSeparador(QStringLiteral("1,60"), separador));
+        Escribe("TX_GS", QStringLiteral("1,3"));
         Teclea("TX_GR", QStringLiteral("-2.75"));
         Pulsa("CM_ACEPTAR");
         QVERIFY(Mensajes().empty());
@@ -521,24 +559,17 @@ private slots:
     void aceptarNoPoneBanderasYGuardaLoQueSeVe()
     {
         QVERIFY(Abre(','));
-        for (int i = 0; i < 3; ++i)
-            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
-        QCOMPARE(QApplication::focusWidget(), Boton("CM_ACEPTAR"));
-        LimpiaBanderas();
-        QTest::keyClick(Boton("CM_ACEPTAR"), Qt::Key_Space);
+        LlegaConTabYPulsa(3, "CM_ACEPTAR");
         QCOMPARE(dialogo_->result(), int(QDialog::Accepted));
-        QCOMPARE(Estado().GC, 1.6);
-        QCOMPARE(Estado().GS, 1.25);
-        QCOMPARE(Estado().GR, 1.33);  // what the field shows, not what the state held
+        // GR is what the field shows, not what the state held.
+        CompruebaCoeficientes(1.6, 1.25, 1.33);
         QVERIFY(BanderasIntactas());
     }
 
     // A text that no check has seen: written in a field while the focus stands on Aceptar.
     void textoSinProbarPasaPorAceptar_data()
     {
-        QTest::addColumn<char>("separador");
-        QTest::addColumn<QString>("texto");
-        QTest::addColumn<double>("valor");
+        prueba::Columnas<char, QString, double>({"separador", "texto", "valor"});
         QTest::newRow("coma, menor que 1") << ',' << "0,5" << 0.5;
         QTest::newRow("punto, menor que 1") << '.' << "0.5" << 0.5;
         QTest::newRow("coma, sin reescribir") << ',' << " 1,3 " << 1.3;
@@ -553,9 +584,7 @@ private slots:
         QFETCH(QString, texto);
         QFETCH(double, valor);
         QVERIFY(Abre(separador));
-        QTest::mouseClick(Boton("CM_RESTAURAR"), Qt::LeftButton);
-        QTest::keyClick(Boton("CM_RESTAURAR"), Qt::Key_Backtab);
-        QTest::keyClick(Boton("CM_CANCELAR"), Qt::Key_Backtab);
+        VuelveAAceptar();
         QCOMPARE(QApplication::focusWidget(), Boton("CM_ACEPTAR"));
         Campo("TX_GS")->setText(texto);
         QTest::keyClick(Boton("CM_ACEPTAR"), Qt::Key_Space);
@@ -592,9 +621,7 @@ private slots:
         QFETCH(QString, texto);
         QFETCH(QString, error);
         QVERIFY(Abre(separador));
-        QTest::mouseClick(Boton("CM_RESTAURAR"), Qt::LeftButton);
-        QTest::keyClick(Boton("CM_RESTAURAR"), Qt::Key_Backtab);
-        QTest::keyClick(Boton("CM_CANCELAR"), Qt::Key_Backtab);
+        VuelveAAceptar();
         Campo("TX_GR")->setText(texto);
         QTest::keyClick(Boton("CM_ACEPTAR"), Qt::Key_Space);
         QCOMPARE(doble_->proceso.erroresFatales.size(), std::size_t{1});
@@ -602,29 +629,6 @@ private slots:
         QCOMPARE(doble_->proceso.terminaciones, std::vector<int>{1});
         QVERIFY(EstadoIntacto());
         QVERIFY(Mensajes().empty());
-    }
-
-    void escapeEsCancelarSinProbarElCampo()
-    {
-        QVERIFY(Abre(','));
-        Campo("TX_GC")->setText(QStringLiteral("abc"));
-        QTest::keyClick(Campo("TX_GC"), Qt::Key_Escape);
-        QVERIFY(!dialogo_->isVisible());
-        QCOMPARE(dialogo_->result(), int(QDialog::Rejected));
-        QVERIFY(Mensajes().empty());
-        QVERIFY(EstadoIntacto());
-        QVERIFY(BanderasIntactas());
-    }
-
-    void cerrarLaVentanaEsCancelar()
-    {
-        QVERIFY(Abre(','));
-        Campo("TX_GC")->setText(QStringLiteral("2"));
-        QVERIFY(dialogo_->close());
-        QCOMPARE(dialogo_->result(), int(QDialog::Rejected));
-        QVERIFY(Mensajes().empty());
-        QVERIFY(EstadoIntacto());
-        QVERIFY(BanderasIntactas());
     }
 
     void introEnUnCampoNoHaceNada()
@@ -666,12 +670,6 @@ private slots:
     }
 };
 
-int main(int argc, char** argv)
-{
-    AplicacionTexalon aplicacion(argc, argv);
-    PreparaAplicacion(aplicacion);
-    PruebaCoef prueba;
-    return QTest::qExec(&prueba, argc, argv);
-}
+int main(int argc, char** argv) { return prueba::Ejecuta<PruebaCoef>(argc, argv); }
 
 #include "test_fm_coef.moc"

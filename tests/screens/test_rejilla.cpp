@@ -7,8 +7,8 @@
 #include <QLineEdit>
 #include <QScrollBar>
 #include <QSignalSpy>
-#include <QVBoxLayout>
 #include <QTest>
+#include <QVBoxLayout>
 #include <memory>
 
 using namespace texalon;
@@ -62,7 +62,36 @@ QColor ColorEnPantalla(RejillaResultados& rejilla, int fila, int columna, int dx
 class PruebaRejilla : public QObject {
     Q_OBJECT
 
+    // The doubles, and a grid of its own laid out as the result grids are.
+    RejillaResultados& Dimensionada()
+    {
+        doble_ = std::make_unique<PlataformaDoble>();
+        sola_ = std::make_unique<RejillaResultados>();
+        sola_->Dimensiona(kFilas, kColumnas, 300, 1595, 1000);
+        return *sola_;
+    }
+
+    std::unique_ptr<PlataformaDoble> doble_;
+    std::unique_ptr<Ventana> ventana_;
+    std::unique_ptr<RejillaResultados> sola_;
+
+    // The doubles, and the grid in its window on the screen, active.
+    RejillaResultados& Muestra()
+    {
+        doble_ = std::make_unique<PlataformaDoble>();
+        ventana_ = std::make_unique<Ventana>();
+        ventana_->MuestraActiva();
+        return *ventana_->rejilla;
+    }
+
 private slots:
+    void cleanup()
+    {
+        ventana_.reset();
+        sola_.reset();
+        doble_.reset();
+    }
+
     void twipsAPixelesRedondeaAlMasCercano()
     {
         // 15 twips a pixel, to the nearest pixel: 1595 / 15 = 106.33 gives 106, 1600 / 15 =
@@ -77,9 +106,7 @@ private slots:
 
     void dimensionaConTamanosDeTwips()
     {
-        PlataformaDoble doble;
-        RejillaResultados rejilla;
-        rejilla.Dimensiona(kFilas, kColumnas, 300, 1595, 1000);
+        RejillaResultados& rejilla = Dimensionada();
         QCOMPARE(rejilla.rowCount(), kFilas);
         QCOMPARE(rejilla.columnCount(), kColumnas);
         for (int fila = 0; fila < kFilas; ++fila)
@@ -94,9 +121,7 @@ private slots:
 
     void elTamanoPreferidoAjustaLaTablaSinBarras()
     {
-        PlataformaDoble doble;
-        RejillaResultados rejilla;
-        rejilla.Dimensiona(kFilas, kColumnas, 300, 1595, 1000);
+        RejillaResultados& rejilla = Dimensionada();
         const int marco = 2 * rejilla.frameWidth();
         QCOMPARE(rejilla.sizeHint(), QSize(67 + 3 * 106 + marco, 6 * 20 + marco));
         rejilla.resize(rejilla.sizeHint());
@@ -112,9 +137,7 @@ private slots:
 
     void filaYColumnaFijasSonGrisesYNoSeleccionables()
     {
-        PlataformaDoble doble;
-        RejillaResultados rejilla;
-        rejilla.Dimensiona(kFilas, kColumnas, 300, 1595, 1000);
+        RejillaResultados& rejilla = Dimensionada();
         const QColor gris(212, 208, 200);
         for (int columna = 0; columna < kColumnas; ++columna) {
             QCOMPARE(rejilla.Color(0, columna), gris);
@@ -133,9 +156,7 @@ private slots:
 
     void todasLasCeldasCentradas()
     {
-        PlataformaDoble doble;
-        RejillaResultados rejilla;
-        rejilla.Dimensiona(kFilas, kColumnas, 300, 1595, 1000);
+        RejillaResultados& rejilla = Dimensionada();
         rejilla.EscribeCelda(2, 3, QStringLiteral("12.5"));
         for (int fila = 0; fila < kFilas; ++fila) {
             for (int columna = 0; columna < kColumnas; ++columna)
@@ -145,9 +166,7 @@ private slots:
 
     void textosYColoresSeLeenDeVuelta()
     {
-        PlataformaDoble doble;
-        RejillaResultados rejilla;
-        rejilla.Dimensiona(kFilas, kColumnas, 300, 1595, 1000);
+        RejillaResultados& rejilla = Dimensionada();
         rejilla.EscribeCelda(0, 0, QStringLiteral("Nº capas"));
         rejilla.EscribeCelda(0, 2, QStringLiteral("TEXALON H"));
         rejilla.EscribeCelda(3, 2, QStringLiteral("---"));
@@ -163,9 +182,7 @@ private slots:
 
     void unaCeldaFueraDeLaRejillaEsElError9()
     {
-        PlataformaDoble doble;
-        RejillaResultados rejilla;
-        rejilla.Dimensiona(kFilas, kColumnas, 300, 1595, 1000);
+        RejillaResultados& rejilla = Dimensionada();
         try {
             rejilla.EscribeCelda(kFilas, 1, QStringLiteral("x"));
             QFAIL("a row past the last one was written");
@@ -178,9 +195,7 @@ private slots:
 
     void dimensionarDeNuevoVaciaLaRejilla()
     {
-        PlataformaDoble doble;
-        RejillaResultados rejilla;
-        rejilla.Dimensiona(kFilas, kColumnas, 300, 1595, 1000);
+        RejillaResultados& rejilla = Dimensionada();
         rejilla.EscribeCelda(2, 2, QStringLiteral("9.9"));
         rejilla.ColoreaCelda(2, 2, RejillaResultados::kAmarillo);
         rejilla.CeldaActual(2, 2);
@@ -193,9 +208,7 @@ private slots:
 
     void laCeldaActualLaFijaElPrograma()
     {
-        PlataformaDoble doble;
-        RejillaResultados rejilla;
-        rejilla.Dimensiona(kFilas, kColumnas, 300, 1595, 1000);
+        RejillaResultados& rejilla = Dimensionada();
         QSignalSpy seleccion(&rejilla, &RejillaResultados::SeleccionCambiada);
         rejilla.CeldaActual(1, 1);
         QCOMPARE(rejilla.Fila(), 1);
@@ -210,10 +223,7 @@ private slots:
 
     void unClicEnUnaCeldaLaHaceActualYAvisa()
     {
-        PlataformaDoble doble;
-        Ventana v;
-        v.MuestraActiva();
-        RejillaResultados& rejilla = *v.rejilla;
+        RejillaResultados& rejilla = Muestra();
         QSignalSpy clic(&rejilla, &RejillaResultados::Clic);
         QSignalSpy seleccion(&rejilla, &RejillaResultados::SeleccionCambiada);
         QTest::mouseClick(rejilla.viewport(), Qt::LeftButton, {}, Centro(rejilla, 3, 2));
@@ -228,10 +238,7 @@ private slots:
 
     void unClicEnUnaCeldaFijaAvisaSinMoverLaCeldaActual()
     {
-        PlataformaDoble doble;
-        Ventana v;
-        v.MuestraActiva();
-        RejillaResultados& rejilla = *v.rejilla;
+        RejillaResultados& rejilla = Muestra();
         rejilla.CeldaActual(2, 2);
         QSignalSpy clic(&rejilla, &RejillaResultados::Clic);
         QSignalSpy seleccion(&rejilla, &RejillaResultados::SeleccionCambiada);
@@ -249,10 +256,7 @@ private slots:
 
     void unDobleClicEsUnSoloClic()
     {
-        PlataformaDoble doble;
-        Ventana v;
-        v.MuestraActiva();
-        RejillaResultados& rejilla = *v.rejilla;
+        RejillaResultados& rejilla = Muestra();
         QSignalSpy clic(&rejilla, &RejillaResultados::Clic);
         for (const QPoint punto : {Centro(rejilla, 2, 3), Centro(rejilla, 0, 1)}) {
             QTest::mousePress(rejilla.viewport(), Qt::LeftButton, {}, punto);
@@ -267,10 +271,7 @@ private slots:
 
     void lasTeclasNoLlevanALaFilaNiALaColumnaFijas()
     {
-        PlataformaDoble doble;
-        Ventana v;
-        v.MuestraActiva();
-        RejillaResultados& rejilla = *v.rejilla;
+        RejillaResultados& rejilla = Muestra();
         rejilla.setFocus();
         rejilla.CeldaActual(1, 1);
         QSignalSpy seleccion(&rejilla, &RejillaResultados::SeleccionCambiada);
@@ -287,10 +288,7 @@ private slots:
 
     void unaCeldaAmarillaSeVeAmarillaSiendoLaActual()
     {
-        PlataformaDoble doble;
-        Ventana v;
-        v.MuestraActiva();
-        RejillaResultados& rejilla = *v.rejilla;
+        RejillaResultados& rejilla = Muestra();
         rejilla.EscribeCelda(2, 1, QStringLiteral("230.0"));
         rejilla.ColoreaCelda(2, 1, RejillaResultados::kAmarillo);
         rejilla.setFocus();
@@ -307,10 +305,7 @@ private slots:
 
     void unaCeldaQueCambiaSePintaConLoNuevo()
     {
-        PlataformaDoble doble;
-        Ventana v;
-        v.MuestraActiva();
-        RejillaResultados& rejilla = *v.rejilla;
+        RejillaResultados& rejilla = Muestra();
         rejilla.EscribeCelda(2, 2, QStringLiteral("246.5"));
         rejilla.EscribeCelda(4, 2, QStringLiteral("246.5"));
         const QRect celda = rejilla.visualRect(rejilla.model()->index(2, 2));
@@ -334,10 +329,7 @@ private slots:
 
     void dimensionarConLasMismasMedidasNoMueveNada()
     {
-        PlataformaDoble doble;
-        Ventana v;
-        v.MuestraActiva();
-        RejillaResultados& rejilla = *v.rejilla;
+        RejillaResultados& rejilla = Muestra();
         rejilla.EscribeCelda(1, 1, QStringLiteral("238.5"));
         rejilla.CeldaActual(1, 1);
         const QRect marco = rejilla.geometry();
@@ -363,10 +355,7 @@ private slots:
 
     void inactivaNoTomaElFocoNiMuestraCeldaActual()
     {
-        PlataformaDoble doble;
-        Ventana v;
-        v.MuestraActiva();
-        RejillaResultados& rejilla = *v.rejilla;
+        RejillaResultados& rejilla = Muestra();
         rejilla.ColoreaCelda(1, 1, RejillaResultados::kAmarillo);
         rejilla.setFocus();
         rejilla.CeldaActual(1, 1);
@@ -393,12 +382,9 @@ private slots:
 
     void activaDeNuevoTomaElFoco()
     {
-        PlataformaDoble doble;
-        Ventana v;
-        v.MuestraActiva();
-        RejillaResultados& rejilla = *v.rejilla;
+        RejillaResultados& rejilla = Muestra();
         rejilla.Activa(false);
-        v.otro->setFocus();
+        ventana_->otro->setFocus();
 
         rejilla.Activa(true);
         QVERIFY(rejilla.EstaActiva());

@@ -1,6 +1,7 @@
 // Help, guide, web and mail as the user reaches them: F1, the Ayuda menu and the toolbar, with
 // each screen open and with none; the messages when the desktop has no reader, browser or mail
 // program; one mail session a run, signed off when the program ends.
+#include "comun/Filas.h"
 #include "comun/Principal.h"
 #include "comun/Usuario.h"
 #include "platform/dobles/PlataformaDoble.h"
@@ -9,8 +10,8 @@
 #include "state/General.h"
 
 #include <QMenuBar>
-#include <QToolBar>
 #include <QTest>
+#include <QToolBar>
 #include <memory>
 
 using namespace texalon;
@@ -18,9 +19,6 @@ using namespace texalon::plataforma;
 
 namespace {
 
-const QString kSinLector = QStringLiteral(
-    "No se ha encontrado ningún lector de ficheros PDF. En el CD de instalación está disponible el Adobe Acrobat Reader.");
-const QString kSinNavegador = QStringLiteral("No se ha encontrado ningún navegador asociado en su ordenador.");
 const QString kSinCorreo = QStringLiteral("No se ha podido establecer la aplicación de correo electrónico.");
 
 }  // namespace
@@ -172,14 +170,33 @@ private slots:
         QVERIFY(doble_->mensajes.mostrados.empty());
     }
 
-    void sinLectorDePdfLaGuiaLoDice_data() { menuYBarra_data(); }
-    void sinLectorDePdfLaGuiaLoDice()
+    void sinSuProgramaLaGuiaYLaWebLoDicen_data()
+    {
+        prueba::Columnas<Via, bool, QString, QString, QString>({"via", "sinVisor", "entrada", "clave", "mensaje"});
+        const QString sinLector = QStringLiteral(
+            "No se ha encontrado ningún lector de ficheros PDF. En el CD de instalación está disponible el Adobe "
+            "Acrobat Reader.");
+        const QString sinNavegador = QStringLiteral("No se ha encontrado ningún navegador asociado en su ordenador.");
+        for (const auto& [via, nombre] : {std::pair{Via::Menu, "menú"}, std::pair{Via::Barra, "barra"}}) {
+            QTest::addRow("la guía sin lector de PDF, %s", nombre) << via << true << "mnuAyudaManual"
+                                                                   << "Guia" << sinLector;
+            QTest::addRow("la web sin navegador, %s", nombre) << via << false << "mnuAyudaWeb"
+                                                              << "Web" << sinNavegador;
+        }
+    }
+
+    void sinSuProgramaLaGuiaYLaWebLoDicen()
     {
         QFETCH(Via, via);
+        QFETCH(bool, sinVisor);
+        QFETCH(QString, entrada);
+        QFETCH(QString, clave);
+        QFETCH(QString, mensaje);
         Arranca();
-        doble_->escritorio.sinVisor = true;
-        Pide(via, "mnuAyudaManual", "Guia");
-        QCOMPARE(Mensajes(), QStringList{kSinLector});
+        doble_->escritorio.sinVisor = sinVisor;
+        doble_->escritorio.sinNavegador = !sinVisor;
+        Pide(via, qPrintable(entrada), qPrintable(clave));
+        QCOMPARE(Mensajes(), QStringList{mensaje});
     }
 
     void laWebSeAbreEnElNavegadorConLaDireccionDelProducto_data() { menuYBarra_data(); }
@@ -195,16 +212,6 @@ private slots:
         QVERIFY(doble_->mensajes.mostrados.empty());
     }
 
-    void sinNavegadorLaWebLoDice_data() { menuYBarra_data(); }
-    void sinNavegadorLaWebLoDice()
-    {
-        QFETCH(Via, via);
-        Arranca();
-        doble_->escritorio.sinNavegador = true;
-        Pide(via, "mnuAyudaWeb", "Web");
-        QCOMPARE(Mensajes(), QStringList{kSinNavegador});
-    }
-
     void unCorreoLlevaElAsuntoYElBuzonDelFabricante_data() { menuYBarra_data(); }
     void unCorreoLlevaElAsuntoYElBuzonDelFabricante()
     {
@@ -213,7 +220,8 @@ private slots:
         Pide(via, "mnuAyudaContactar", "Mail");
         QCOMPARE(doble_->correo.inicios, 1);
         QCOMPARE(doble_->correo.mensajes.size(), std::size_t{1});
-        QCOMPARE(doble_->correo.mensajes[0].asunto, QStringLiteral("INFORMACION SOBRE EL SISTEMA DE REFUERZO TEXALON®"));
+        QCOMPARE(doble_->correo.mensajes[0].asunto,
+                 QStringLiteral("INFORMACION SOBRE EL SISTEMA DE REFUERZO TEXALON®"));
         QCOMPARE(doble_->correo.mensajes[0].destinatario, QStringLiteral(TEXALON_CORREO));
         QVERIFY(Estado().F_MAPI);
         QVERIFY(doble_->mensajes.mostrados.empty());
@@ -229,32 +237,31 @@ private slots:
         QVERIFY(Estado().F_MAPI);
     }
 
-    void sinProgramaDeCorreoLoDiceYNoQuedaSesion()
+    void unCorreoQueFallaLoDice_data()
     {
-        Arranca();
-        doble_->correo.fallaInicio = true;
-        Pide(Via::Barra, "mnuAyudaContactar", "Mail");
-        QCOMPARE(Mensajes(), QStringList{kSinCorreo});
-        QVERIFY(!Estado().F_MAPI);
-        QVERIFY(doble_->correo.mensajes.empty());
-        // The next mail tries the sign-on again.
-        doble_->correo.fallaInicio = false;
-        Pide(Via::Barra, "mnuAyudaContactar", "Mail");
-        QCOMPARE(doble_->correo.inicios, 2);
-        QVERIFY(Estado().F_MAPI);
+        prueba::DosFilas("alIniciar", {"sin programa de correo, no queda sesión", true},
+                         {"que no se envía, la sesión sigue abierta", false});
     }
 
-    void unCorreoQueNoSeEnviaLoDiceYLaSesionSigueAbierta()
+    void unCorreoQueFallaLoDice()
     {
+        QFETCH(bool, alIniciar);
         Arranca();
-        doble_->correo.fallaEnvio = true;
-        Pide(Via::Menu, "mnuAyudaContactar", "Mail");
+        bool& falla = alIniciar ? doble_->correo.fallaInicio : doble_->correo.fallaEnvio;
+        const Via via = alIniciar ? Via::Barra : Via::Menu;
+        falla = true;
+        Pide(via, "mnuAyudaContactar", "Mail");
         QCOMPARE(Mensajes(), QStringList{kSinCorreo});
-        QVERIFY(Estado().F_MAPI);
-        doble_->correo.fallaEnvio = false;
-        Pide(Via::Menu, "mnuAyudaContactar", "Mail");
-        QCOMPARE(doble_->correo.inicios, 1);
-        QCOMPARE(Mensajes(), QStringList{kSinCorreo});
+        QCOMPARE(Estado().F_MAPI, !alIniciar);
+        if (alIniciar) QVERIFY(doble_->correo.mensajes.empty());
+        // The next mail tries the sign-on again, or goes through the session still open.
+        falla = false;
+        Pide(via, "mnuAyudaContactar", "Mail");
+        QCOMPARE(doble_->correo.inicios, alIniciar ? 2 : 1);
+        if (alIniciar)
+            QVERIFY(Estado().F_MAPI);
+        else
+            QCOMPARE(Mensajes(), QStringList{kSinCorreo});
     }
 
     void salirCierraLaSesionDeCorreo()

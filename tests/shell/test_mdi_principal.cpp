@@ -1,3 +1,4 @@
+#include "comun/Filas.h"
 #include "platform/dobles/PlataformaDoble.h"
 #include "screens/Formulario.h"
 #include "shell/Aplicacion.h"
@@ -13,10 +14,10 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QPushButton>
+#include <QTest>
 #include <QTimer>
 #include <QToolBar>
 #include <QToolButton>
-#include <QTest>
 #include <array>
 #include <memory>
 
@@ -103,12 +104,11 @@ private slots:
         QVERIFY(g.F_PRESENTACION);
         QCOMPARE(g.NTIPOS, Entero{3});
         QCOMPARE(g.TIPOS(2), std::string("TEXALON H"));
-        QCOMPARE(g.ASS, 0.0);
-        QCOMPARE(g.MCP, 0.0);
-        QCOMPARE(g.MD, 0.0);
-        QCOMPARE(g.NCP, 0.0);
-        QCOMPARE(g.INCR, 1.0);
-        QCOMPARE(g.ANCHOR, 0.125);
+        const std::pair<double General::*, double> inicio[] = {{&General::ASS, 0.0},  {&General::MCP, 0.0},
+                                                               {&General::MD, 0.0},   {&General::NCP, 0.0},
+                                                               {&General::INCR, 1.0}, {&General::ANCHOR, 0.125}};
+        for (const auto& [campo, valor] : inicio)
+            QCOMPARE(g.*campo, valor);
         QVERIFY(doble_->mensajes.mostrados.empty());
         QVERIFY(doble_->proceso.terminaciones.empty());
     }
@@ -269,21 +269,20 @@ private slots:
         QVERIFY(tm->isActive());
     }
 
-    void presentacionSeCierraSolaALosQuinceSegundos()
+    void laPresentacionSeCierra_data()
     {
-        Arranca();
-        QPointer<FmPresentacion> p = Presentacion();
-        auto* tm = p->findChild<QTimer*>(QStringLiteral("TM"));
-        VenceTemporizador(tm);
-        QTRY_VERIFY(p.isNull());
-        QVERIFY(!Estado().F_PRESENTACION);
+        prueba::DosFilas("sola", {"sola a los quince segundos", true}, {"con un clic en la versión", false});
     }
 
-    void clicEnLaVersionCierraLaPresentacion()
+    void laPresentacionSeCierra()
     {
+        QFETCH(bool, sola);
         Arranca();
         QPointer<FmPresentacion> p = Presentacion();
-        QTest::mouseClick(ControlDePresentacion("LB_VERSION"), Qt::LeftButton);
+        if (sola)
+            VenceTemporizador(p->findChild<QTimer*>(QStringLiteral("TM")));
+        else
+            QTest::mouseClick(ControlDePresentacion("LB_VERSION"), Qt::LeftButton);
         QTRY_VERIFY(p.isNull());
         QVERIFY(!Estado().F_PRESENTACION);
     }
@@ -507,9 +506,7 @@ private slots:
 
     void nuevaConUnaPantallaAbiertaPreguntaAntesYAbreLaNueva_data()
     {
-        QTest::addColumn<bool>("respuestaSi");
-        QTest::newRow("No") << false;
-        QTest::newRow("Si") << true;
+        prueba::DosFilas("respuestaSi", {"No", false}, {"Si", true});
     }
 
     void nuevaConUnaPantallaAbiertaPreguntaAntesYAbreLaNueva()
@@ -571,16 +568,13 @@ private slots:
 
     void nuevoConfinamientoYCaracteristicasAbrenSusPantallasPorMenuYBarra_data()
     {
-        QTest::addColumn<bool>("porBarra");
-        QTest::newRow("menu") << false;
-        QTest::newRow("barra") << true;
+        prueba::DosFilas("porBarra", {"menu", false}, {"barra", true});
     }
 
     void nuevoConfinamientoYCaracteristicasAbrenSusPantallasPorMenuYBarra()
     {
         QFETCH(bool, porBarra);
         MdiPrincipal& w = Arranca();
-        w.show();
         Estado().DIAM = 0.7;
         if (porBarra)
             w.TB_BARRA_ButtonClick(QStringLiteral("Confina"));
@@ -660,18 +654,17 @@ private slots:
         MdiPrincipal& w = Arranca();
         General& g = Estado();
         g.SECCION = 3;
-        g.DIAM = 0.6;
-        g.LADOMENOR = 0.3;
-        g.NU = 0.3;
-        g.INCR = 1.4;
-        g.NCP = 1200.0;
+        const std::pair<double General::*, double> confinamiento[] = {{&General::DIAM, 0.6},
+                                                                      {&General::LADOMENOR, 0.3},
+                                                                      {&General::NU, 0.3},
+                                                                      {&General::INCR, 1.4},
+                                                                      {&General::NCP, 1200.0}};
+        for (const auto& [campo, valor] : confinamiento)
+            g.*campo = valor;
         w.NuevaFlexion();
         QCOMPARE(g.SECCION, Entero{3});
-        QCOMPARE(g.DIAM, 0.6);
-        QCOMPARE(g.LADOMENOR, 0.3);
-        QCOMPARE(g.NU, 0.3);
-        QCOMPARE(g.INCR, 1.4);
-        QCOMPARE(g.NCP, 1200.0);
+        for (const auto& [campo, valor] : confinamiento)
+            QCOMPARE(g.*campo, valor);
         g.ANCHO = 0.3;
         g.ASI = 12.0;
         w.NuevoConfinamiento();
