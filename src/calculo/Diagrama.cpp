@@ -62,21 +62,13 @@ std::string MensajeCeldaSinResultado(const General& g, const PeticionDiagrama& p
            (peticion.capas == 1 ? " capa" : " capas") + " no tiene resultado («---»): no hay diagrama de pivotes.";
 }
 
-using Procedimiento = void (*)(const General&, GeneralDibujo&, char);
-
-// A flexure diagram with its two procedures: the T section has its twin, named with a "T" at
-// the end.
-struct Gemelos {
-    std::string_view nombre;
-    Procedimiento rectangular;
-    Procedimiento t;
-};
-
-Gemelos GemelosDe(Diagrama diagrama)
+// The name of a flexure diagram's procedure for the rectangular section; the T section's twin
+// ends with a "T".
+std::string_view NombreDe(Diagrama diagrama)
 {
-    if (diagrama == Diagrama::Area) return {"DiagramaMomentoArea", DiagramaMomentoArea, DiagramaMomentoAreaT};
-    if (diagrama == Diagrama::Capas) return {"DiagramaMomentoCapas", DiagramaMomentoCapas, DiagramaMomentoCapasT};
-    return {"DibujaSeccion", DibujaSeccion, DibujaSeccionT};
+    if (diagrama == Diagrama::Area) return "DiagramaMomentoArea";
+    if (diagrama == Diagrama::Capas) return "DiagramaMomentoCapas";
+    return "DibujaSeccion";
 }
 
 // The section drawings keep the section's proportions (kIsotropico); the charts take a scale in
@@ -91,19 +83,23 @@ void Describe(ListaDiagrama& lista, std::string procedimiento, const Dibujo& dib
 void DibujaFlexion(CalculoFichero& calculo, const PeticionDiagrama& peticion, char separador, ListaDiagrama& lista)
 {
     General& g = calculo.g;
-    const bool esT = calculo.seccion == kSeccionT;
-    const std::string sufijo = esT ? "T" : "";
+    // The list is named for the twin of the section's kind, which the T one ends with a "T".
+    const std::string sufijo = calculo.seccion == SeccionFlexion::T ? "T" : "";
     if (peticion.diagrama == Diagrama::Pivotes) {
         // The cell's results as the screen's fields show them, which the strain plane reads.
         const ResultadosCeldaFlexion celda = ResultadosFlexion(g, peticion.tipo, peticion.capas, separador);
-        (esT ? DiagramaPivotesT : DiagramaPivotes)(g, lista.d, celda, separador);
+        DiagramaPivotesFlexion(g, lista.d, celda, separador);
         Describe(lista, "DiagramaPivotes" + sufijo, kPicFlexion, kAnisotropico);
         return;
     }
-    const Gemelos gemelos = GemelosDe(peticion.diagrama);
-    (esT ? gemelos.t : gemelos.rectangular)(g, lista.d, separador);
+    if (peticion.diagrama == Diagrama::Area)
+        DiagramaMomentoAreaFlexion(g, lista.d, separador);
+    else if (peticion.diagrama == Diagrama::Capas)
+        DiagramaMomentoCapasFlexion(g, lista.d, separador);
+    else
+        DibujaSeccionFlexion(g, lista.d, calculo.seccion, separador);
     const Entero isotropico = peticion.diagrama == Diagrama::Seccion ? kIsotropico : kAnisotropico;
-    Describe(lista, std::string(gemelos.nombre) + sufijo, kPicFlexion, isotropico);
+    Describe(lista, std::string(NombreDe(peticion.diagrama)) + sufijo, kPicFlexion, isotropico);
 }
 
 // Runs the procedure of the diagram for the file's kind of project.

@@ -16,13 +16,12 @@ void Imprime(CalculoFichero& calculo, plataforma::Impresora& impresora, int tipo
     General& g = calculo.g;
     GeneralDibujo d;
     if (calculo.clase == ClaseFichero::Confinamiento) {
-        // A file that was read shows its section on the screen's list, row SECCION - 1.
-        InformeConfina(impresora, g, d, ResultadosConfina(g, tipo, capas, separador), g.SECCION - 1, separador);
+        // A file that was read shows its own shape on the screen's list.
+        InformeConfina(impresora, g, d, ResultadosConfina(g, tipo, capas, separador), FormaDe(g), separador);
         return;
     }
-    const auto informe = calculo.seccion == kSeccionT ? InformeFlexionT : InformeFlexion;
-    if (informe(impresora, g, d, ResultadosFlexion(g, tipo, capas, separador), calculo.veredicto, separador) ==
-        Impresion::CeldaRechazada)
+    if (InformeFlexionDeSeccion(impresora, g, d, calculo.seccion, ResultadosFlexion(g, tipo, capas, separador),
+                                calculo.veredicto, separador) == Impresion::CeldaRechazada)
         calculo.errores.emplace_back(kMensajeCeldaRechazada);
 }
 

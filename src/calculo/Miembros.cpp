@@ -110,15 +110,15 @@ std::optional<std::string> NombreCanonico(std::string_view escrito)
 struct Clase {
     unsigned ambito;
     ClaseFichero fichero;
-    Entero seccion;
+    SeccionFlexion seccion;  // for flexure only
 };
 
 std::optional<Clase> ClaseDe(std::string_view tipo)
 {
     const std::string nombre = Mayusculas(SinBlancos(tipo));
-    if (nombre == Mayusculas(kTipoRectangular)) return Clase{kRectangular, ClaseFichero::Flexion, kSeccionRectangular};
-    if (nombre == Mayusculas(kTipoT)) return Clase{kT, ClaseFichero::Flexion, kSeccionT};
-    if (nombre == Mayusculas(kTipoConfinamiento)) return Clase{kConfinamiento, ClaseFichero::Confinamiento, 0};
+    if (nombre == Mayusculas(kTipoRectangular)) return Clase{kRectangular, ClaseFichero::Flexion, SeccionFlexion::Rectangular};
+    if (nombre == Mayusculas(kTipoT)) return Clase{kT, ClaseFichero::Flexion, SeccionFlexion::T};
+    if (nombre == Mayusculas(kTipoConfinamiento)) return Clase{kConfinamiento, ClaseFichero::Confinamiento, SeccionFlexion::Rectangular};
     return std::nullopt;
 }
 
@@ -183,7 +183,8 @@ void LeeValores(CalculoFichero& calculo, const Clase& clase, const Celdas& celda
         const std::string_view texto = celdas.De(columna.nombre);
         const bool aplica = (columna.ambito & clase.ambito) != 0;
         const bool obligatoria = (columna.obligatoria & clase.ambito) != 0 ||
-                                 (columna.nombre == "LADOMENOR" && g.SECCION == 3 && clase.ambito == kConfinamiento);
+                                 (columna.nombre == "LADOMENOR" && FormaDe(g) == FormaPilar::Rectangular &&
+                                  clase.ambito == kConfinamiento);
         if (texto.empty()) {
             if (aplica && obligatoria) calculo.errores.push_back(std::string(columna.nombre) + ": falta el valor.");
             continue;
@@ -221,9 +222,9 @@ void Comprueba(CalculoFichero& calculo, const Celdas& celdas)
     }
     const bool valido = flexion ? FlexionValida({g.ANCHO, g.CANTO, g.ANCHOALMA, g.CANTOALA, g.RECUB, g.ASI, g.ASS, g.FCK,
                                                  g.FYK, g.GC, g.GS, g.GR, g.ANCHOR, g.MCP, g.MD},
-                                                calculo.seccion == kSeccionT)
+                                                calculo.seccion)
                                   : ConfinaValida({g.SECCION, g.DIAM, g.LADOMENOR, g.FCK, g.GC, g.GS, g.GR, g.NCP, g.INCR},
-                                                  g.SECCION == 3);
+                                                  FormaDe(g));
     if (!valido) calculo.errores.emplace_back(kMensajeDatosIncorrectos);
 }
 
@@ -277,7 +278,6 @@ CalculoFichero CalculaFila(const std::string& tabla, const CabeceraTabla& cabece
     calculo.seccion = clase->seccion;
     ValoresIniciales(calculo.g);
     LeeValores(calculo, *clase, celdas, decimales);
-    if (calculo.clase == ClaseFichero::Confinamiento) calculo.seccion = calculo.g.SECCION;
     if (!calculo.errores.empty()) return calculo;
     Comprueba(calculo, celdas);
     if (!calculo.errores.empty()) return calculo;

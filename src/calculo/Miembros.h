@@ -15,10 +15,6 @@
 
 namespace texalon::calculo {
 
-// The kinds of member, as the column "tipo" and --json name them.
-inline constexpr std::string_view kTipoRectangular = "rectangular";
-inline constexpr std::string_view kTipoT = "T";
-inline constexpr std::string_view kTipoConfinamiento = "confinamiento";
 
 // The columns of the table found in its header row: the position of each known column. A
 // header that cannot be used gives its reason in `error`.

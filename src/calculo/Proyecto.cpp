@@ -45,7 +45,7 @@ ResultadoCalculo CalculaSegunClase(CalculoFichero& calculo)
 {
     General& g = calculo.g;
     if (calculo.clase == ClaseFichero::Flexion) return CalculaFlexion(g, calculo.seccion, nullptr);
-    return CalculaConfinamiento(g, g.SECCION, nullptr);
+    return CalculaConfinamiento(g, FormaDe(g), nullptr);
 }
 
 void Calcula(CalculoFichero& calculo)
@@ -91,7 +91,7 @@ void CalculaLeido(CalculoFichero& calculo)
     if (ValoresQueLosCamposAceptan(calculo)) CalculaBajoTrampa(calculo);
 }
 
-// The screens have no trap around Calculate, so the program would end with this message; the
+// On a screen the fatal-error trap around Calculate ends the program with this message; the
 // batch command tells it and goes on with the next file.
 std::string MensajeErrorEjecucion(int numero)
 {
@@ -109,10 +109,10 @@ std::string Procedencia(const CalculoFichero& calculo)
 
 std::optional<std::string_view> NombreTipo(const CalculoFichero& calculo)
 {
-    if (calculo.clase == ClaseFichero::Confinamiento) return "confinamiento";
+    if (calculo.clase == ClaseFichero::Confinamiento) return kTipoConfinamiento;
     if (calculo.clase != ClaseFichero::Flexion) return std::nullopt;
-    if (calculo.seccion == kSeccionRectangular) return "rectangular";
-    if (calculo.seccion == kSeccionT) return "T";
+    if (calculo.seccion == SeccionFlexion::Rectangular) return kTipoRectangular;
+    if (calculo.seccion == SeccionFlexion::T) return kTipoT;
     return std::nullopt;
 }
 

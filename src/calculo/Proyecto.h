@@ -5,6 +5,7 @@
 #include "engine/Calcular.h"
 #include "files/Ficheros.h"
 #include "state/General.h"
+#include "state/TiposSeccion.h"
 
 #include <cstddef>
 #include <optional>
@@ -26,7 +27,8 @@ struct CalculoFichero {
     std::string elemento;
     std::size_t fila = 0;
     ClaseFichero clase = ClaseFichero::Ninguna;
-    Entero seccion = 0;  // section kind of line 1 of a flexure file, as read
+    // The section kind of a flexure project: line 1 of its file as read, or its table row's kind.
+    SeccionFlexion seccion = SeccionFlexion::Rectangular;
     bool leido = false;  // the whole file read and found good
     Veredicto veredicto = Veredicto::Oculto;
     // The messages of a failure, in the order the program shows them; none on success.
@@ -49,7 +51,12 @@ void CalculaLeido(CalculoFichero& calculo);
 // member of a table "TABLA: fila N (ELEMENTO)", the row being the table's line it starts on.
 std::string Procedencia(const CalculoFichero& calculo);
 
-// "rectangular", "T" or "confinamiento"; none while the file has not told its kind.
+// The kinds of project, as the column "tipo" of a table and --json name them.
+inline constexpr std::string_view kTipoRectangular = "rectangular";
+inline constexpr std::string_view kTipoT = "T";
+inline constexpr std::string_view kTipoConfinamiento = "confinamiento";
+
+// The kind's name of above; none while the file has not told its kind.
 std::optional<std::string_view> NombreTipo(const CalculoFichero& calculo);
 
 // The message of a run-time error inside a calculation or a drawing, as the program would end

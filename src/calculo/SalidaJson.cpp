@@ -95,11 +95,11 @@ private:
     std::string texto_ = "{";
 };
 
-void DatosFlexion(Objeto& objeto, const General& g, bool esT)
+void DatosFlexion(Objeto& objeto, const General& g, SeccionFlexion seccion)
 {
     objeto.Numeros({{"ANCHO", g.ANCHO}, {"CANTO", g.CANTO}});
     // A rectangular file has no web and no flange.
-    if (esT) objeto.Numeros({{"ANCHOALMA", g.ANCHOALMA}, {"CANTOALA", g.CANTOALA}});
+    if (seccion == SeccionFlexion::T) objeto.Numeros({{"ANCHOALMA", g.ANCHOALMA}, {"CANTOALA", g.CANTOALA}});
     objeto.Numeros({{"RECUB", g.RECUB},
                     {"ASI", g.ASI},
                     {"ASS", g.ASS},
@@ -213,7 +213,7 @@ std::string ObjetoJson(const CalculoFichero& calculo, const ListaDiagrama* lista
         objeto.Texto("error", Unidos(calculo.errores));
     } else {
         if (calculo.clase == ClaseFichero::Flexion) {
-            DatosFlexion(objeto, calculo.g, calculo.seccion == kSeccionT);
+            DatosFlexion(objeto, calculo.g, calculo.seccion);
             ResultadosFlexion(objeto, calculo.g);
         } else {
             DatosConfinamiento(objeto, calculo.g);

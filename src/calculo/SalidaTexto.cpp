@@ -21,8 +21,16 @@ namespace {
 constexpr std::size_t kAnchoCapas = 8;
 constexpr std::size_t kAnchoTipo = 13;
 
-// The rows of CO_SECCION, for SECCION 1, 2 and 3.
-constexpr std::string_view kFormas[] = {"circular", "cuadrada", "rectangular"};
+// The shapes' names, in lower case.
+std::string_view NombreForma(FormaPilar forma)
+{
+    switch (forma) {
+    case FormaPilar::Circular: return "circular";
+    case FormaPilar::Cuadrada: return "cuadrada";
+    case FormaPilar::Rectangular: return "rectangular";
+    }
+    return {};
+}
 
 std::string Alineado(std::string_view texto, std::size_t ancho) { return FormatoTexto(texto, std::string(ancho, '@')); }
 
@@ -77,10 +85,10 @@ std::string Datos(const std::vector<Dato>& datos)
 std::string DescripcionSeccion(const CalculoFichero& calculo)
 {
     if (calculo.clase == ClaseFichero::Flexion)
-        return calculo.seccion == kSeccionT ? "Flexión, sección en T" : "Flexión, sección rectangular";
-    const int forma = calculo.g.SECCION;
-    if (forma < 1 || forma > 3) return "Confinamiento";
-    return "Confinamiento, sección " + std::string(kFormas[forma - 1]);
+        return calculo.seccion == SeccionFlexion::T ? "Flexión, sección en T" : "Flexión, sección rectangular";
+    const std::string_view forma = NombreForma(FormaDe(calculo.g));
+    if (forma.empty()) return "Confinamiento";
+    return "Confinamiento, sección " + std::string(forma);
 }
 
 std::string TextoFlexion(const CalculoFichero& calculo, char separador)

@@ -88,7 +88,10 @@ CeldaPivotes LeeCelda(const ResultadosCeldaFlexion& celda, char separador)
 
 std::string PorMil(double valor, char separador) { return Formato(valor, "0.00", separador) + "‰"; }
 
-void DiagramaPivotesDeCelda(General& g, GeneralDibujo& d, const ResultadosCeldaFlexion& celda, char separador)
+
+}  // namespace
+
+void DiagramaPivotesFlexion(General& g, GeneralDibujo& d, const ResultadosCeldaFlexion& celda, char separador)
 {
     NuevaLista(d);
     d.F_PIVOTES = true;
@@ -133,16 +136,14 @@ void DiagramaPivotesDeCelda(General& g, GeneralDibujo& d, const ResultadosCeldaF
     Titulo(d, -13.5 / 4.0, h * 1.2, "DIAGRAMA DE PIVOTES");
 }
 
-}  // namespace
-
 void DiagramaPivotes(General& g, GeneralDibujo& d, const ResultadosCeldaFlexion& celda, char separador)
 {
-    DiagramaPivotesDeCelda(g, d, celda, separador);
+    DiagramaPivotesFlexion(g, d, celda, separador);
 }
 
 void DiagramaPivotesT(General& g, GeneralDibujo& d, const ResultadosCeldaFlexion& celda, char separador)
 {
-    DiagramaPivotesDeCelda(g, d, celda, separador);
+    DiagramaPivotesFlexion(g, d, celda, separador);
 }
 
 }  // namespace texalon

@@ -88,10 +88,12 @@ void LeyendaMomentos(const General& g, GeneralDibujo& d, const Rango& r, double 
     }
 }
 
+}  // namespace
+
 // Moment against area. The first segment of a type, from the unreinforced section to one
 // layer, is drawn without looking for the mark, and so runs far to the left when one layer
 // already brings nothing.
-void MomentoArea(const General& g, GeneralDibujo& d, char separador)
+void DiagramaMomentoAreaFlexion(const General& g, GeneralDibujo& d, char separador)
 {
     NuevaLista(d);
     d.F_MOMENTOS = true;
@@ -128,7 +130,7 @@ void MomentoArea(const General& g, GeneralDibujo& d, char separador)
 // Moment against layers, a stepped curve per type. Each type is raised by a tenth of a layer
 // over the one before, to keep the curves apart where they run together. A pair of layer
 // counts with a mark draws nothing, the step from the unreinforced section included.
-void MomentoCapas(const General& g, GeneralDibujo& d, char separador)
+void DiagramaMomentoCapasFlexion(const General& g, GeneralDibujo& d, char separador)
 {
     NuevaLista(d);
     d.F_CAPAS = true;
@@ -165,26 +167,24 @@ void MomentoCapas(const General& g, GeneralDibujo& d, char separador)
     LeyendaMomentos(g, d, r, -H / 5.0);
 }
 
-}  // namespace
-
 void DiagramaMomentoArea(const General& g, GeneralDibujo& d, char separador)
 {
-    MomentoArea(g, d, separador);
+    DiagramaMomentoAreaFlexion(g, d, separador);
 }
 
 void DiagramaMomentoAreaT(const General& g, GeneralDibujo& d, char separador)
 {
-    MomentoArea(g, d, separador);
+    DiagramaMomentoAreaFlexion(g, d, separador);
 }
 
 void DiagramaMomentoCapas(const General& g, GeneralDibujo& d, char separador)
 {
-    MomentoCapas(g, d, separador);
+    DiagramaMomentoCapasFlexion(g, d, separador);
 }
 
 void DiagramaMomentoCapasT(const General& g, GeneralDibujo& d, char separador)
 {
-    MomentoCapas(g, d, separador);
+    DiagramaMomentoCapasFlexion(g, d, separador);
 }
 
 }  // namespace texalon

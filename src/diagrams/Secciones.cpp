@@ -165,19 +165,6 @@ void TextosFlexion(const General& g, GeneralDibujo& d, const MedidasFlexion& m, 
     Titulo(d, b / 2.0, u / 2.0 + h, kTitulo);
 }
 
-void DibujaSeccionFlexion(const General& g, GeneralDibujo& d, char separador, bool enT)
-{
-    NuevaLista(d);
-    d.F_SECCION = true;
-    d.F_PIVOTES = false;
-    d.F_MOMENTOS = false;
-    d.F_CAPAS = false;
-
-    const MedidasFlexion m = MedidasDe(g, enT);
-    CuerpoFlexion(g, d, m);
-    CotasFlexion(d, m);
-    TextosFlexion(g, d, m, separador);
-}
 
 // ---- Wrapped columns: the concrete in grey within the sheet in red, D = DIAM.
 
@@ -234,26 +221,40 @@ void Rectangular(const General& g, GeneralDibujo& d, char separador, bool cuadra
 
 }  // namespace
 
+void DibujaSeccionFlexion(const General& g, GeneralDibujo& d, SeccionFlexion seccion, char separador)
+{
+    NuevaLista(d);
+    d.F_SECCION = true;
+    d.F_PIVOTES = false;
+    d.F_MOMENTOS = false;
+    d.F_CAPAS = false;
+
+    const MedidasFlexion m = MedidasDe(g, seccion == SeccionFlexion::T);
+    CuerpoFlexion(g, d, m);
+    CotasFlexion(d, m);
+    TextosFlexion(g, d, m, separador);
+}
+
 void DibujaSeccion(const General& g, GeneralDibujo& d, char separador)
 {
-    DibujaSeccionFlexion(g, d, separador, false);
+    DibujaSeccionFlexion(g, d, SeccionFlexion::Rectangular, separador);
 }
 
 void DibujaSeccionT(const General& g, GeneralDibujo& d, char separador)
 {
-    DibujaSeccionFlexion(g, d, separador, true);
+    DibujaSeccionFlexion(g, d, SeccionFlexion::T, separador);
 }
 
-// A shape other than 1, 2 or 3 writes no element: the list is empty and the flag set all the
+// A number that is no shape writes no element: the list is empty and the flag set all the
 // same, as for any section drawing.
 void DibujaSeccionConfina(const General& g, GeneralDibujo& d, char separador)
 {
     NuevaLista(d);
     d.F_SECCION = true;
-    switch (g.SECCION) {
-    case 1: Circular(g, d, separador); break;
-    case 2: Rectangular(g, d, separador, true); break;
-    case 3: Rectangular(g, d, separador, false); break;
+    switch (FormaDe(g)) {
+    case FormaPilar::Circular: Circular(g, d, separador); break;
+    case FormaPilar::Cuadrada: Rectangular(g, d, separador, true); break;
+    case FormaPilar::Rectangular: Rectangular(g, d, separador, false); break;
     default: break;
     }
 }

@@ -25,8 +25,8 @@ double Maximo(const General& g, const Arreglo<double>& valores)
     return maximo;
 }
 
-ResultadoCalculo Flexion(General& g, Entero seccion, const LeeCampos& leeCampos);
-ResultadoCalculo Confinamiento(General& g, Entero forma, const LeeCampos& leeCampos);
+ResultadoCalculo Flexion(General& g, SeccionFlexion seccion, const LeeCampos& leeCampos);
+ResultadoCalculo Confinamiento(General& g, FormaPilar forma, const LeeCampos& leeCampos);
 
 }  // namespace
 
@@ -54,19 +54,19 @@ Veredicto VeredictoConfina(double INCR, double RESUMAX)
     return INCR <= RESUMAX ? Veredicto::Oculto : Veredicto::NoSePuede;
 }
 
-ResultadoCalculo CalculaFlexion(General& g, Entero seccion, const LeeCampos& leeCampos)
+ResultadoCalculo CalculaFlexion(General& g, SeccionFlexion seccion, const LeeCampos& leeCampos)
 {
     return ConAritmeticaVigilada([&] { return Flexion(g, seccion, leeCampos); });
 }
 
-ResultadoCalculo CalculaConfinamiento(General& g, Entero forma, const LeeCampos& leeCampos)
+ResultadoCalculo CalculaConfinamiento(General& g, FormaPilar forma, const LeeCampos& leeCampos)
 {
     return ConAritmeticaVigilada([&] { return Confinamiento(g, forma, leeCampos); });
 }
 
 namespace {
 
-ResultadoCalculo Flexion(General& g, Entero seccion, const LeeCampos& leeCampos)
+ResultadoCalculo Flexion(General& g, SeccionFlexion seccion, const LeeCampos& leeCampos)
 {
     Asigna(g, {&g.MU, &g.FN, &g.MRB, &g.XRB, &g.MLIMSR, &g.MLIMCR, &g.XLIM, &g.EPSC, &g.EPSSI, &g.EPSSS, &g.EPSR});
     g.PIVOTE.Redimensiona(g.NTIPOS, g.MAXCAPAS);
@@ -82,11 +82,9 @@ ResultadoCalculo Flexion(General& g, Entero seccion, const LeeCampos& leeCampos)
         return resultado;
     }
 
-    const auto rotura = seccion == kSeccionT ? &RoturaT : &RoturaRectangular;
     for (Entero t = 1; t <= g.NTIPOS; ++t)
-        rotura(g, g.ANCHO, g.CANTO, g.RECUB, g.ASI, g.ASS, g.ANCHOR, g.FCK, g.FYK, g.EPS0, g.MD, t);
-    const auto sinRefuerzo = seccion == kSeccionT ? &MomentoSinRefuerzoT : &MomentoSinRefuerzo;
-    sinRefuerzo(g, g.ANCHO, g.CANTO, g.RECUB, g.ASI, g.ASS, g.FCK, g.FYK);
+        RoturaDeSeccion(g, seccion, g.ANCHO, g.CANTO, g.RECUB, g.ASI, g.ASS, g.ANCHOR, g.FCK, g.FYK, g.EPS0, t);
+    MomentoSinRefuerzoDeSeccion(g, seccion, g.ANCHO, g.CANTO, g.RECUB, g.ASI, g.ASS, g.FCK, g.FYK);
 
     g.MUMAX = Maximo(g, g.MU);
     resultado.veredicto = VeredictoFlexion(g.MD, g.MUSR, g.MUMAX);
@@ -94,7 +92,7 @@ ResultadoCalculo Flexion(General& g, Entero seccion, const LeeCampos& leeCampos)
     return resultado;
 }
 
-ResultadoCalculo Confinamiento(General& g, Entero forma, const LeeCampos& leeCampos)
+ResultadoCalculo Confinamiento(General& g, FormaPilar forma, const LeeCampos& leeCampos)
 {
     Asigna(g, {&g.WR, &g.WWD, &g.EPSRC, &g.SIGMAR, &g.TENSCONF, &g.RESU});
     g.WC.Redimensiona(g.NTIPOS);

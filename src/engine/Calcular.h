@@ -4,6 +4,7 @@
 #pragma once
 
 #include "state/General.h"
+#include "state/TiposSeccion.h"
 
 #include <functional>
 #include <string_view>
@@ -48,11 +49,11 @@ using LeeCampos = std::function<void(General&)>;
 // sets F_CALCULANDO, reads the fields, works out EPS0 and stops over 0.002; else every type,
 // MUSR, MUMAX, the verdict and F_CALCULADO. F_CALCULANDO stays True: the screen clears it when
 // its table is built.
-ResultadoCalculo CalculaFlexion(General& g, Entero seccion, const LeeCampos& leeCampos);
+ResultadoCalculo CalculaFlexion(General& g, SeccionFlexion seccion, const LeeCampos& leeCampos);
 
 // CM_CALCULAR of the confinement screen: allocates the seven result arrays, reads the fields,
 // works out EPS0 and stops over 0.002; else every type with the given shape, RESUMAX, the
 // verdict and F_CALCULADO.
-ResultadoCalculo CalculaConfinamiento(General& g, Entero forma, const LeeCampos& leeCampos);
+ResultadoCalculo CalculaConfinamiento(General& g, FormaPilar forma, const LeeCampos& leeCampos);
 
 }  // namespace texalon

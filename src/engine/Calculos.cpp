@@ -173,33 +173,33 @@ struct FormaColumna {
 
 constexpr double kPi = 3.141592;
 
-FormaColumna Forma(Entero forma, double D, double L, double N)
+FormaColumna Forma(FormaPilar forma, double D, double L, double N)
 {
     switch (forma) {
-    case 1:
+    case FormaPilar::Circular:
         return {(D * D * kPi) / 4.0, D * kPi, (D * D * kPi) / 4.0, ((D * D * 0.012566368) / 4.0) * N,
                 CoeficienteForma(forma, D, L)};
-    case 2: return {D * D, D * 4.0, D * D, (D * D * 0.004) * N, CoeficienteForma(forma, D, L)};
-    case 3: return {D * L, (D + L) + (D + L), L * D, ((D * 0.004) * L) * N, CoeficienteForma(forma, D, L)};
+    case FormaPilar::Cuadrada: return {D * D, D * 4.0, D * D, (D * D * 0.004) * N, CoeficienteForma(forma, D, L)};
+    case FormaPilar::Rectangular: return {D * L, (D + L) + (D + L), L * D, ((D * 0.004) * L) * N, CoeficienteForma(forma, D, L)};
     default: throw ErrorEjecucion(ErrorEjecucion::kSubindiceFueraDeIntervalo);
     }
 }
 
 }  // namespace
 
-double CoeficienteForma(Entero forma, double DIAM, double LADOMENOR)
+double CoeficienteForma(FormaPilar forma, double DIAM, double LADOMENOR)
 {
     switch (forma) {
-    case 1: return 1.0;
-    case 2: return 1.0 - 2.0 / 3.0;
-    case 3: return 1.0 - ((2.0 / 3.0) * DIAM) / LADOMENOR;
+    case FormaPilar::Circular: return 1.0;
+    case FormaPilar::Cuadrada: return 1.0 - 2.0 / 3.0;
+    case FormaPilar::Rectangular: return 1.0 - ((2.0 / 3.0) * DIAM) / LADOMENOR;
     default: throw ErrorEjecucion(ErrorEjecucion::kSubindiceFueraDeIntervalo);
     }
 }
 
 double ModuloHormigon(double fck) { return 8500.0 * std::pow(fck + 8.0, 1.0 / 3.0); }
 
-SeccionFisurada AnalisisElastico(const General& g, Entero tipo)
+SeccionFisurada AnalisisElastico(const General& g, SeccionFlexion seccion)
 {
     SeccionFisurada f{};
     f.EC = ModuloHormigon(g.FCK);
@@ -217,7 +217,7 @@ SeccionFisurada AnalisisElastico(const General& g, Entero tipo)
                b;
     double I = A2 * N * (X - r) * (X - r) + (1.0 / 3.0) * b * X * X * X + A1 * N * (h - X - r) * (h - X - r);
 
-    if (tipo == kSeccionT && X > g.CANTOALA) {
+    if (seccion == SeccionFlexion::T && X > g.CANTOALA) {
         // The axis is in the web: flange and web both in compression.
         const double BW = g.ANCHOALMA;
         const double HF = g.CANTOALA;
@@ -235,46 +235,58 @@ SeccionFisurada AnalisisElastico(const General& g, Entero tipo)
     return f;
 }
 
-void Predeformacion(General& g, Entero tipo)
+void Predeformacion(General& g, SeccionFlexion seccion)
 {
-    if (tipo != kSeccionRectangular && tipo != kSeccionT) return;
-    const SeccionFisurada f = AnalisisElastico(g, tipo);
+    if (seccion != SeccionFlexion::Rectangular && seccion != SeccionFlexion::T) return;
+    const SeccionFisurada f = AnalisisElastico(g, seccion);
     // The strain of the bottom fibre; the factor 1000 turns N/mm² into kN/m².
     g.EPS0 = ((g.CANTO - f.X) * g.MCP) / ((f.EC * 1000.0) * f.I);
+}
+
+void RoturaDeSeccion(General& g, SeccionFlexion seccion, double ANCHO, double CANTO, double RECUB, double ASI,
+                     double ASS, double ANCHOR, double FCK, double FYK, double EPS0, Entero tipo)
+{
+    Rotura(g, Seccion(g, seccion == SeccionFlexion::T, ANCHO, CANTO, RECUB, ASI, ASS, FCK, FYK), ANCHOR, EPS0, tipo);
 }
 
 void RoturaRectangular(General& g, double ANCHO, double CANTO, double RECUB, double ASI, double ASS, double ANCHOR,
                        double FCK, double FYK, double EPS0, double /*MD*/, Entero tipo)
 {
-    Rotura(g, Seccion(g, false, ANCHO, CANTO, RECUB, ASI, ASS, FCK, FYK), ANCHOR, EPS0, tipo);
+    RoturaDeSeccion(g, SeccionFlexion::Rectangular, ANCHO, CANTO, RECUB, ASI, ASS, ANCHOR, FCK, FYK, EPS0, tipo);
 }
 
 void RoturaT(General& g, double ANCHO, double CANTO, double RECUB, double ASI, double ASS, double ANCHOR, double FCK,
              double FYK, double EPS0, double /*MD*/, Entero tipo)
 {
-    Rotura(g, Seccion(g, true, ANCHO, CANTO, RECUB, ASI, ASS, FCK, FYK), ANCHOR, EPS0, tipo);
+    RoturaDeSeccion(g, SeccionFlexion::T, ANCHO, CANTO, RECUB, ASI, ASS, ANCHOR, FCK, FYK, EPS0, tipo);
+}
+
+void MomentoSinRefuerzoDeSeccion(General& g, SeccionFlexion seccion, double ANCHO, double CANTO, double RECUB,
+                                 double ASI, double ASS, double FCK, double FYK)
+{
+    MomentoSinRefuerzoSeccion(g, Seccion(g, seccion == SeccionFlexion::T, ANCHO, CANTO, RECUB, ASI, ASS, FCK, FYK));
 }
 
 void MomentoSinRefuerzo(General& g, double ANCHO, double CANTO, double RECUB, double ASI, double ASS, double FCK,
                         double FYK)
 {
-    MomentoSinRefuerzoSeccion(g, Seccion(g, false, ANCHO, CANTO, RECUB, ASI, ASS, FCK, FYK));
+    MomentoSinRefuerzoDeSeccion(g, SeccionFlexion::Rectangular, ANCHO, CANTO, RECUB, ASI, ASS, FCK, FYK);
 }
 
 void MomentoSinRefuerzoT(General& g, double ANCHO, double CANTO, double RECUB, double ASI, double ASS, double FCK,
                          double FYK)
 {
-    MomentoSinRefuerzoSeccion(g, Seccion(g, true, ANCHO, CANTO, RECUB, ASI, ASS, FCK, FYK));
+    MomentoSinRefuerzoDeSeccion(g, SeccionFlexion::T, ANCHO, CANTO, RECUB, ASI, ASS, FCK, FYK);
 }
 
 void PredeformacionConfina(General& g)
 {
     const double ec = ModuloHormigon(g.FCK);
-    const FormaColumna f = Forma(g.SECCION, g.DIAM, g.LADOMENOR, 200000.0 / ec);
+    const FormaColumna f = Forma(FormaDe(g), g.DIAM, g.LADOMENOR, 200000.0 / ec);
     g.EPS0 = g.NCP / (((f.ac + f.at) * ec) * 1000.0);
 }
 
-void CalculoConfina(General& g, Entero forma, double DIAM, double LADOMENOR, double FCK, Entero tipo)
+void CalculoConfina(General& g, FormaPilar forma, double DIAM, double LADOMENOR, double FCK, Entero tipo)
 {
     CopiaTipo(g, tipo);
     DeformacionCalculo(g);

@@ -8,12 +8,9 @@
 #pragma once
 
 #include "state/General.h"
+#include "state/TiposSeccion.h"
 
 namespace texalon {
-
-// Section kinds of the flexure screens, as the files and Predeformacion number them.
-constexpr Entero kSeccionRectangular = 1;
-constexpr Entero kSeccionT = 2;
 
 // Ultimate strains of the failure diagram and the modulus of the steel.
 constexpr double kDeformacionHormigon = 0.0035;  // pivot "B"
@@ -24,8 +21,8 @@ constexpr double kTolerancia = 0.00001;
 // MU holds this mark where a layer count, and all above it, brings no gain.
 constexpr double kSinMejora = -999.0;
 
-// EPS0 of a flexure section under MCP: 1 rectangular, 2 T; any other kind leaves EPS0.
-void Predeformacion(General& g, Entero tipo);
+// EPS0 of a flexure section under MCP; any number that is no kind leaves EPS0.
+void Predeformacion(General& g, SeccionFlexion seccion);
 
 // Fills the flexure result arrays of one sheet type for 1 to MAXCAPAS layers. MD is passed and
 // not used. The arrays must exist.
@@ -35,23 +32,31 @@ void RoturaRectangular(General& g, double ANCHO, double CANTO, double RECUB, dou
 void RoturaT(General& g, double ANCHO, double CANTO, double RECUB, double ASI, double ASS, double ANCHOR, double FCK,
              double FYK, double EPS0, double MD, Entero tipo);
 
+// The two above for the section of the project: what both twins do, the section picked by its
+// kind.
+void RoturaDeSeccion(General& g, SeccionFlexion seccion, double ANCHO, double CANTO, double RECUB, double ASI,
+                     double ASS, double ANCHOR, double FCK, double FYK, double EPS0, Entero tipo);
+
 // MUSR, the ultimate moment of the section without sheet. When the search needs no step,
 // MUSR keeps the value of the previous Calculate.
 void MomentoSinRefuerzo(General& g, double ANCHO, double CANTO, double RECUB, double ASI, double ASS, double FCK,
                         double FYK);
 void MomentoSinRefuerzoT(General& g, double ANCHO, double CANTO, double RECUB, double ASI, double ASS, double FCK,
                          double FYK);
+// The two above for the section of the project.
+void MomentoSinRefuerzoDeSeccion(General& g, SeccionFlexion seccion, double ANCHO, double CANTO, double RECUB,
+                                 double ASI, double ASS, double FCK, double FYK);
 
 // EPS0 of a column under the axial load NCP.
 void PredeformacionConfina(General& g);
 
 // ALFAN, the shape coefficient of a column: 1 circular, 1 - 2/3 square, 1 - (2/3) D / L
-// rectangular. Any other shape is the run-time error 9.
-double CoeficienteForma(Entero forma, double DIAM, double LADOMENOR);
+// rectangular. Any number that is no shape is the run-time error 9.
+double CoeficienteForma(FormaPilar forma, double DIAM, double LADOMENOR);
 
-// Fills the confinement results of one sheet type for 1 to MAXCAPAS layers. forma: 1 circular,
-// 2 square, 3 rectangular. The arrays must exist.
-void CalculoConfina(General& g, Entero forma, double DIAM, double LADOMENOR, double FCK, Entero tipo);
+// Fills the confinement results of one sheet type for 1 to MAXCAPAS layers. The arrays must
+// exist.
+void CalculoConfina(General& g, FormaPilar forma, double DIAM, double LADOMENOR, double FCK, Entero tipo);
 
 // LANC, the net anchorage length of every type and layer count.
 void LongitudAnclaje(General& g);

@@ -121,7 +121,7 @@ struct SeccionFisurada {
 double ModuloHormigon(double fck);
 
 // The elastic analysis of a rectangular (1) or T (2) section of the state.
-SeccionFisurada AnalisisElastico(const General& g, Entero tipo);
+SeccionFisurada AnalisisElastico(const General& g, SeccionFlexion seccion);
 
 // MUSR of a section by bisection between pivots A and B; returns the final axis depth.
 double MomentoSinRefuerzoSeccion(General& g, const Seccion& s);

@@ -12,8 +12,9 @@ bool EnIntervalo(double valor, double minimo, double maximo) { return valor >= m
 
 }  // namespace
 
-bool FlexionValida(const DatosFlexion& d, bool seccionT)
+bool FlexionValida(const DatosFlexion& d, SeccionFlexion seccion)
 {
+    const bool seccionT = seccion == SeccionFlexion::T;
     // The sheet lies under the web of a T section and under the whole width of a rectangle.
     if (d.ANCHOR > (seccionT ? d.ANCHOALMA : d.ANCHO)) return false;
     if (d.ANCHO == 0.0 || d.CANTO == 0.0) return false;
@@ -25,8 +26,9 @@ bool FlexionValida(const DatosFlexion& d, bool seccionT)
     return d.CANTO / 2.0 >= d.RECUB;
 }
 
-bool ConfinaValida(const DatosConfina& d, bool rectangular)
+bool ConfinaValida(const DatosConfina& d, FormaPilar forma)
 {
+    const bool rectangular = forma == FormaPilar::Rectangular;
     // The smaller side is kept for every shape, and must be there for every shape.
     if (d.DIAM == 0.0 || d.LADOMENOR == 0.0) return false;
     // The long side of a rectangle is the one given first.

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "state/General.h"
+#include "state/TiposSeccion.h"
 
 namespace texalon {
 
@@ -42,10 +43,10 @@ struct DatosConfina {
 // The sheet no wider than the section (the web of a T), no zero length or bottom steel, the
 // flange within the depth, FCK 15 to 50, FYK 300 to 600, the cover within half the depth.
 // Both ends of a range pass.
-bool FlexionValida(const DatosFlexion& d, bool seccionT);
+bool FlexionValida(const DatosFlexion& d, SeccionFlexion seccion);
 
 // No zero side, the short side of a rectangle within the long one, FCK 15 to 50, INCR at
 // least 1.
-bool ConfinaValida(const DatosConfina& d, bool rectangular);
+bool ConfinaValida(const DatosConfina& d, FormaPilar forma);
 
 }  // namespace texalon

@@ -13,11 +13,6 @@ namespace texalon {
 
 namespace {
 
-// The list index of the rectangular entry of CO_SECCION.
-constexpr int kIndiceRectangular = 2;
-
-enum class Seccion { kRectangular, kT };
-
 // ---------------------------------------------------------------------------------------------
 // Reading the fields.
 
@@ -59,12 +54,12 @@ private:
 // Flexure.
 
 // The fields of the screen of that section kind.
-Campos CamposFlexion(const TextosFlexion& t, DatosFlexion& v, Seccion seccion)
+Campos CamposFlexion(const TextosFlexion& t, DatosFlexion& v, SeccionFlexion seccion)
 {
     Campos campos;
     campos.Anade(t.ANCHO, v.ANCHO);
     campos.Anade(t.CANTO, v.CANTO);
-    if (seccion == Seccion::kT) {
+    if (seccion == SeccionFlexion::T) {
         campos.Anade(t.ANCHOALMA, v.ANCHOALMA);
         campos.Anade(t.CANTOALA, v.CANTOALA);
     }
@@ -80,11 +75,11 @@ Campos CamposFlexion(const TextosFlexion& t, DatosFlexion& v, Seccion seccion)
 }
 
 // The coefficients are not among the values: they belong to the coefficient dialog.
-void GuardaFlexion(General& g, const DatosFlexion& v, Seccion seccion)
+void GuardaFlexion(General& g, const DatosFlexion& v, SeccionFlexion seccion)
 {
     g.ANCHO = v.ANCHO;
     g.CANTO = v.CANTO;
-    if (seccion == Seccion::kT) {
+    if (seccion == SeccionFlexion::T) {
         g.ANCHOALMA = v.ANCHOALMA;
         g.CANTOALA = v.CANTOALA;
     }
@@ -98,24 +93,27 @@ void GuardaFlexion(General& g, const DatosFlexion& v, Seccion seccion)
     g.MD = v.MD;
 }
 
-void CopiaFlexionDe(General& g, const TextosFlexion& campos, Seccion seccion)
+}  // namespace
+
+void CopiaFlexionDeSeccion(General& g, const TextosFlexion& campos, SeccionFlexion seccion)
 {
     DatosFlexion v;
-    if (!CamposFlexion(campos, v, seccion).Lee() || !FlexionValida(v, seccion == Seccion::kT)) {
+    if (!CamposFlexion(campos, v, seccion).Lee() || !FlexionValida(v, seccion)) {
         g.F_ERROR = true;
         return;
     }
     GuardaFlexion(g, v, seccion);
 }
 
+void CopiaFlexion(General& g, const TextosFlexion& campos)
+{
+    CopiaFlexionDeSeccion(g, campos, SeccionFlexion::Rectangular);
+}
+
+void CopiaFlexionT(General& g, const TextosFlexion& campos) { CopiaFlexionDeSeccion(g, campos, SeccionFlexion::T); }
+
 // ---------------------------------------------------------------------------------------------
 // Confinement.
-
-}  // namespace
-
-void CopiaFlexion(General& g, const TextosFlexion& campos) { CopiaFlexionDe(g, campos, Seccion::kRectangular); }
-
-void CopiaFlexionT(General& g, const TextosFlexion& campos) { CopiaFlexionDe(g, campos, Seccion::kT); }
 
 void CopiaConfina(General& g, const TextosConfina& campos, int indice_seccion)
 {
@@ -126,7 +124,7 @@ void CopiaConfina(General& g, const TextosConfina& campos, int indice_seccion)
     leidos.Anade(campos.FCK, v.FCK);
     leidos.Anade(campos.NCP, v.NCP);
     leidos.Anade(campos.INCR, v.INCR);
-    if (!leidos.Lee() || !ConfinaValida(v, indice_seccion == kIndiceRectangular)) {
+    if (!leidos.Lee() || !ConfinaValida(v, FormaDeFila(indice_seccion))) {
         g.F_ERROR = true;
         return;
     }

@@ -9,6 +9,7 @@
 #pragma once
 
 #include "state/General.h"
+#include "state/TiposSeccion.h"
 
 #include <string>
 
@@ -26,6 +27,9 @@ void CopiaFlexion(General& g, const TextosFlexion& campos);
 
 // FM_FLEXIONT, the T section: all twelve fields.
 void CopiaFlexionT(General& g, const TextosFlexion& campos);
+
+// The one of the two above for the section's kind.
+void CopiaFlexionDeSeccion(General& g, const TextosFlexion& campos, SeccionFlexion seccion);
 
 // The texts of the confinement screen's fields: TX_DIAM, TX_LADOMENOR, CO_FCK, TX_NCP, TX_INCR.
 struct TextosConfina {

@@ -20,14 +20,6 @@ namespace texalon {
 
 namespace {
 
-// Section kinds of line 1 of a flexure file.
-constexpr Entero kRectangular = 1;
-constexpr Entero kSeccionT = 2;
-
-// Section kinds of line 1 of a confinement file.
-constexpr Entero kCircular = 1;
-constexpr Entero kRectangularConfinada = 3;
-
 // Every line of a project file ends so, on any machine.
 constexpr std::string_view kFinDeLinea = "\r\n";
 
@@ -250,12 +242,12 @@ bool BajoTrampaDeErrores(General& g, const Aviso& aviso, Parte&& parte)
 // Flexure file.
 
 // Any kind other than T is read as a rectangular file; the checks refuse the unknown ones.
-DatosFlexion LeeDatosFlexion(LectorValores& lector, Entero tipo)
+DatosFlexion LeeDatosFlexion(LectorValores& lector, SeccionFlexion seccion)
 {
     DatosFlexion d;
     d.ANCHO = lector.LeeDoble();
     d.CANTO = lector.LeeDoble();
-    if (tipo == kSeccionT) {
+    if (seccion == SeccionFlexion::T) {
         d.ANCHOALMA = lector.LeeDoble();
         d.CANTOALA = lector.LeeDoble();
     }
@@ -275,18 +267,18 @@ DatosFlexion LeeDatosFlexion(LectorValores& lector, Entero tipo)
 
 // On purpose: the checks run on the values as read, so a negative pair of widths that passes
 // them is kept as positive values afterwards, which the screens would not allow.
-bool CompruebaFlexion(const DatosFlexion& d, Entero tipo)
+bool CompruebaFlexion(const DatosFlexion& d, SeccionFlexion seccion)
 {
-    if (tipo != kRectangular && tipo != kSeccionT) return false;
-    return FlexionValida(d, tipo == kSeccionT);
+    if (seccion != SeccionFlexion::Rectangular && seccion != SeccionFlexion::T) return false;
+    return FlexionValida(d, seccion);
 }
 
 // A rectangular file leaves the web width and flange depth of the state as they were.
-void GuardaFlexion(General& g, const DatosFlexion& d, Entero tipo)
+void GuardaFlexion(General& g, const DatosFlexion& d, SeccionFlexion seccion)
 {
     g.ANCHO = std::fabs(d.ANCHO);
     g.CANTO = std::fabs(d.CANTO);
-    if (tipo == kSeccionT) {
+    if (seccion == SeccionFlexion::T) {
         g.ANCHOALMA = std::fabs(d.ANCHOALMA);
         g.CANTOALA = std::fabs(d.CANTOALA);
     }
@@ -303,13 +295,13 @@ void GuardaFlexion(General& g, const DatosFlexion& d, Entero tipo)
     g.GR = std::fabs(d.GR);
 }
 
-std::string TextoFlexion(const General& g, Entero tipo)
+std::string TextoFlexion(const General& g, SeccionFlexion seccion)
 {
     std::string texto;
-    AnadeLinea(texto, tipo);
+    AnadeLinea(texto, static_cast<Entero>(seccion));
     AnadeLinea(texto, g.ANCHO);
     AnadeLinea(texto, g.CANTO);
-    if (tipo == kSeccionT) {
+    if (seccion == SeccionFlexion::T) {
         AnadeLinea(texto, g.ANCHOALMA);
         AnadeLinea(texto, g.CANTOALA);
     }
@@ -338,8 +330,10 @@ DatosConfina LeeDatosConfina(LectorValores& lector)
 
 bool CompruebaConfina(const DatosConfina& d)
 {
-    if (d.SECCION < kCircular || d.SECCION > kRectangularConfinada) return false;
-    return ConfinaValida(d, d.SECCION == kRectangularConfinada);
+    const auto forma = static_cast<FormaPilar>(d.SECCION);
+    if (forma != FormaPilar::Circular && forma != FormaPilar::Cuadrada && forma != FormaPilar::Rectangular)
+        return false;
+    return ConfinaValida(d, forma);
 }
 
 void GuardaConfina(General& g, const DatosConfina& d)
@@ -393,19 +387,19 @@ std::string MensajeErrorFichero(int numero)
     return "Error " + std::string(cifras, escrito.ptr) + ": " + ErrorEjecucion::DescripcionDe(numero);
 }
 
-void LeeFlexion(General& g, const std::string& fichero, Entero& tipo, const Aviso& aviso)
+void LeeFlexion(General& g, const std::string& fichero, SeccionFlexion& seccion, const Aviso& aviso)
 {
     // The state is not touched until the whole file has been read and found good.
     DatosFlexion datos;
     const bool leido = BajoTrampaDeErrores(g, aviso, [&] {
         Canal canal(fichero, "rb");
         LectorValores lector(canal.Fichero());
-        tipo = lector.LeeEntero();
-        datos = LeeDatosFlexion(lector, tipo);
+        seccion = static_cast<SeccionFlexion>(lector.LeeEntero());
+        datos = LeeDatosFlexion(lector, seccion);
         canal.Cierra();
     });
-    if (leido && CompruebaFlexion(datos, tipo)) {
-        GuardaFlexion(g, datos, tipo);
+    if (leido && CompruebaFlexion(datos, seccion)) {
+        GuardaFlexion(g, datos, seccion);
         return;
     }
     // A refused file and a failed one both leave the start values of a new project.
@@ -437,10 +431,10 @@ void LeeConfina(General& g, const std::string& fichero, const Aviso& aviso)
     GuardaConfina(g, datos);
 }
 
-void GrabaFlexion(General& g, const std::string& fichero, Entero tipo, const Aviso& aviso)
+void GrabaFlexion(General& g, const std::string& fichero, SeccionFlexion seccion, const Aviso& aviso)
 {
     // No checks here: the state holds what a screen's copy has just checked, or what was read.
-    BajoTrampaDeErrores(g, aviso, [&] { EscribeFichero(fichero, TextoFlexion(g, tipo)); });
+    BajoTrampaDeErrores(g, aviso, [&] { EscribeFichero(fichero, TextoFlexion(g, seccion)); });
 }
 
 void GrabaConfina(General& g, const std::string& fichero, const Aviso& aviso)

@@ -8,6 +8,7 @@
 #pragma once
 
 #include "state/General.h"
+#include "state/TiposSeccion.h"
 
 #include <functional>
 #include <string>
@@ -19,13 +20,14 @@ namespace texalon {
 // insuficiente." or "Error N: description".
 using Aviso = std::function<void(const std::string& texto)>;
 
-// Reads a VMF file into the state. `tipo` receives the section kind of line 1.
-void LeeFlexion(General& g, const std::string& fichero, Entero& tipo, const Aviso& aviso);
+// Reads a VMF file into the state. `seccion` receives the number of line 1, a section kind when
+// the file is good.
+void LeeFlexion(General& g, const std::string& fichero, SeccionFlexion& seccion, const Aviso& aviso);
 // Reads a VMC file into the state.
 void LeeConfina(General& g, const std::string& fichero, const Aviso& aviso);
-// Writes the state to a VMF file of section kind 1 or 2. Takes the state writable only to set
+// Writes the state to a VMF file of the section's kind. Takes the state writable only to set
 // F_ERROR when the file cannot be written; no project value changes.
-void GrabaFlexion(General& g, const std::string& fichero, Entero tipo, const Aviso& aviso);
+void GrabaFlexion(General& g, const std::string& fichero, SeccionFlexion seccion, const Aviso& aviso);
 // Writes the state to a VMC file.
 void GrabaConfina(General& g, const std::string& fichero, const Aviso& aviso);
 

@@ -58,9 +58,9 @@ std::optional<CampoRechazado> ConCoeficientes(std::optional<CampoRechazado> rech
 
 }  // namespace
 
-std::optional<CampoRechazado> CampoQueRechazaLaFlexion(const General& g, Entero seccion)
+std::optional<CampoRechazado> CampoQueRechazaLaFlexion(const General& g, SeccionFlexion seccion)
 {
-    return ConCoeficientes(CampoQueRechaza(ReglasFlexion(seccion == kSeccionT), g), g);
+    return ConCoeficientes(CampoQueRechaza(ReglasFlexion(seccion), g), g);
 }
 
 std::optional<CampoRechazado> CampoQueRechazaElConfinamiento(const General& g)
@@ -70,9 +70,9 @@ std::optional<CampoRechazado> CampoQueRechazaElConfinamiento(const General& g)
         g);
 }
 
-std::optional<CampoRechazado> CampoQueRechazaLaFlexionAlEscribir(const General& g, Entero seccion)
+std::optional<CampoRechazado> CampoQueRechazaLaFlexionAlEscribir(const General& g, SeccionFlexion seccion)
 {
-    return ConCoeficientes(CampoQueRechazaAlEscribir(ReglasFlexion(seccion == kSeccionT), g, nullptr), g);
+    return ConCoeficientes(CampoQueRechazaAlEscribir(ReglasFlexion(seccion), g, nullptr), g);
 }
 
 std::optional<CampoRechazado> CampoQueRechazaElConfinamientoAlEscribir(const General& g)

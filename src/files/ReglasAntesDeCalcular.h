@@ -5,6 +5,7 @@
 
 #include "files/ReglasCampo.h"
 #include "state/General.h"
+#include "state/TiposSeccion.h"
 
 #include <functional>
 #include <optional>
@@ -35,9 +36,9 @@ std::optional<CampoRechazado> CampoQueRechaza(const std::vector<ReglaCampo>& reg
 std::optional<CampoRechazado> CampoQueRechazaAlEscribir(const std::vector<ReglaCampo>& reglas, const General& g,
                                                          const std::function<bool(const ReglaCampo&)>& enPantalla);
 
-// What Calculate refuses on a flexure screen of that section kind (1 rectangular, 2 T): its
-// fields in the screen's order, then the three coefficients of FM_COEF.
-std::optional<CampoRechazado> CampoQueRechazaLaFlexion(const General& g, Entero seccion);
+// What Calculate refuses on the flexure screen of that section kind: its fields in the screen's
+// order, then the three coefficients of FM_COEF.
+std::optional<CampoRechazado> CampoQueRechazaLaFlexion(const General& g, SeccionFlexion seccion);
 // The same on the confinement screen, for the section of `g.SECCION`: "Lado menor" only for a
 // rectangular column. A DIAM below LADOMENOR is no refusal: no field tests it, and Calculate
 // goes ahead with it.
@@ -45,7 +46,7 @@ std::optional<CampoRechazado> CampoQueRechazaElConfinamiento(const General& g);
 
 // The same with every test of every field, as if each value had been typed on the screen: what
 // a project made from outside the screens (a table of members) must pass.
-std::optional<CampoRechazado> CampoQueRechazaLaFlexionAlEscribir(const General& g, Entero seccion);
+std::optional<CampoRechazado> CampoQueRechazaLaFlexionAlEscribir(const General& g, SeccionFlexion seccion);
 std::optional<CampoRechazado> CampoQueRechazaElConfinamientoAlEscribir(const General& g);
 
 }  // namespace texalon

@@ -34,9 +34,12 @@ std::vector<ReglaCampo> Construye()
          Limite{limites::kLongitudMinima, "El diámetro o lado debe ser mayor que cero."},
          std::nullopt,
          // Only a rectangle has a ratio of sides; no test compares the side with LADOMENOR.
-         {Dura([](double v,
-                  const General& g) { return g.SECCION == 3 && RelacionLados(v, g.LADOMENOR) >= limites::kRelacionLadosMaxima; },
-               kMensajeRelacion)}},
+         {Dura(
+             [](double v, const General& g) {
+                 return FormaDe(g) == FormaPilar::Rectangular &&
+                        RelacionLados(v, g.LADOMENOR) >= limites::kRelacionLadosMaxima;
+             },
+             kMensajeRelacion)}},
         {"TX_LADOMENOR",
          &General::LADOMENOR,
          "0.000",
@@ -90,7 +93,7 @@ const std::vector<std::string>& FilasSeccion()
 
 bool CampoConfinaEnPantalla(const ReglaCampo& regla, const General& g)
 {
-    return regla.campo != &General::LADOMENOR || g.SECCION == kFilaRectangular + 1;
+    return regla.campo != &General::LADOMENOR || FormaDe(g) == FormaPilar::Rectangular;
 }
 
 double RelacionLados(double mayor, double menor)
@@ -101,16 +104,16 @@ double RelacionLados(double mayor, double menor)
 
 std::optional<double> CoeficienteFormaDeFila(int fila, const General& g)
 {
-    if (fila < 0 || fila > kFilaRectangular) return std::nullopt;
-    return CoeficienteForma(static_cast<Entero>(fila + 1), g.DIAM, g.LADOMENOR);
+    if (fila < 0 || fila >= static_cast<int>(FilasSeccion().size())) return std::nullopt;
+    return CoeficienteForma(FormaDeFila(fila), g.DIAM, g.LADOMENOR);
 }
 
-CambioSeccion CambiaSeccion(General& g, int fila)
+CambioDeForma CambiaSeccion(General& g, int fila)
 {
-    g.SECCION = static_cast<Entero>(fila + 1);
+    g.SECCION = NumeroDe(FormaDeFila(fila));
     if (const auto alfan = CoeficienteFormaDeFila(fila, g)) g.ALFAN = *alfan;
-    CambioSeccion cambio;
-    if (fila == kFilaRectangular) {
+    CambioDeForma cambio;
+    if (FormaDeFila(fila) == FormaPilar::Rectangular) {
         cambio.ladoMenorActivo = true;
         if (g.DIAM < g.LADOMENOR) cambio.mensaje = kMensajeLadoMenor;
         // Exactly 1.5 passes here, where the fields refuse it.

@@ -17,9 +17,8 @@ const std::vector<ReglaCampo>& ReglasConfina();
 // rectangular column.
 bool CampoConfinaEnPantalla(const ReglaCampo& regla, const General& g);
 
-// The rows of CO_SECCION, index 0 to 2 for SECCION 1 to 3.
+// The rows of CO_SECCION, one a shape in the order of FormaPilar.
 const std::vector<std::string>& FilasSeccion();
-constexpr int kFilaRectangular = 2;
 
 // The ratio of the long side to the short one as the user reckons it from the sides typed:
 // their binary quotient may fall a hair short (0.6 / 0.4 gives 1.4999999999999998), so it is
@@ -31,7 +30,7 @@ double RelacionLados(double mayor, double menor);
 std::optional<double> CoeficienteFormaDeFila(int fila, const General& g);
 
 // What a change of section asks of the screen.
-struct CambioSeccion {
+struct CambioDeForma {
     bool ladoMenorActivo = false;  // the "Lado menor" row is available (rectangular only)
     std::string mensaje;  // a refusal of the sides to show, the focus then to TX_LADOMENOR; "" none
 };
@@ -39,6 +38,6 @@ struct CambioSeccion {
 // The steps of a change of section that act on the state: SECCION and ALFAN from the row, the
 // sides of a rectangle tested (a refusal resets nothing and the section stays rectangular),
 // and the project marked as changed.
-CambioSeccion CambiaSeccion(General& g, int fila);
+CambioDeForma CambiaSeccion(General& g, int fila);
 
 }  // namespace texalon

@@ -177,11 +177,11 @@ std::vector<ReglaCampo> Construye(bool seccionT)
 
 }  // namespace
 
-const std::vector<ReglaCampo>& ReglasFlexion(bool seccionT)
+const std::vector<ReglaCampo>& ReglasFlexion(SeccionFlexion seccion)
 {
     static const std::vector<ReglaCampo> rectangular = Construye(false);
     static const std::vector<ReglaCampo> t = Construye(true);
-    return seccionT ? t : rectangular;
+    return seccion == SeccionFlexion::T ? t : rectangular;
 }
 
 }  // namespace texalon

@@ -3,11 +3,12 @@
 #pragma once
 
 #include "files/ReglasCampo.h"
+#include "state/TiposSeccion.h"
 
 namespace texalon {
 
 // The fields of FM_FLEXION (rectangular) or FM_FLEXIONT (T). The T screen has two fields more
 // and differs in the tests of the widths and depths.
-const std::vector<ReglaCampo>& ReglasFlexion(bool seccionT);
+const std::vector<ReglaCampo>& ReglasFlexion(SeccionFlexion seccion);
 
 }  // namespace texalon

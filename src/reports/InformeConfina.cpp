@@ -16,13 +16,6 @@ namespace {
 
 constexpr char kTitulo[] = "REFUERZO A CONFINAMIENTO";
 
-// The rows of the section list on the screen.
-constexpr int kFilaCircular = 0;
-constexpr int kFilaCuadrada = 1;
-constexpr int kFilaRectangular = 2;
-// The rectangular column, as SECCION numbers it: only it has a smaller side.
-constexpr Entero kSeccionRectangular = 3;
-
 // From the last auxiliary row to the results' heading, to the name of the cell and to the first
 // result.
 constexpr double kSaltoResultados = 1.5;
@@ -34,32 +27,32 @@ constexpr double kCorteDiagrama = 12.0;
 constexpr double kArribaSeccion = 5.0;
 
 // The word of the shape. On purpose: the rectangle has none, and its value stays blank.
-std::string NombreForma(int filaSeccion)
+std::string NombreForma(FormaPilar forma)
 {
-    if (filaSeccion == kFilaCircular) return "CIRCULAR";
-    if (filaSeccion == kFilaCuadrada) return "CUADRADA";
+    if (forma == FormaPilar::Circular) return "CIRCULAR";
+    if (forma == FormaPilar::Cuadrada) return "CUADRADA";
     return "";
 }
 
 // The label of the size in DIAM, by the shape of the list.
-std::string EtiquetaTamano(int filaSeccion)
+std::string EtiquetaTamano(FormaPilar forma)
 {
-    if (filaSeccion == kFilaCircular) return "Diámetro:";
-    if (filaSeccion == kFilaCuadrada) return "Lado:";
-    if (filaSeccion == kFilaRectangular) return "Lado mayor:";
+    if (forma == FormaPilar::Circular) return "Diámetro:";
+    if (forma == FormaPilar::Cuadrada) return "Lado:";
+    if (forma == FormaPilar::Rectangular) return "Lado mayor:";
     return "";
 }
 
 // The left block. The shape's word and the size's label go by the screen's list, the row of
 // the smaller side by the section in the state.
-void DatosGenerales(Impresora& impresora, const Pagina& pagina, const General& g, int filaSeccion, char separador)
+void DatosGenerales(Impresora& impresora, const Pagina& pagina, const General& g, FormaPilar forma, char separador)
 {
     const double x = pagina.margenIzquierdo;
     Cabecera(impresora, x, kYCabecera, "DATOS GENERALES");
     double y = kYPrimeraFila;
-    Fila(impresora, x, y, "Tipo de sección:", NombreForma(filaSeccion));
-    Fila(impresora, x, y, EtiquetaTamano(filaSeccion), Formato(g.DIAM, "0.000", separador) + " m");
-    if (g.SECCION == kSeccionRectangular)
+    Fila(impresora, x, y, "Tipo de sección:", NombreForma(forma));
+    Fila(impresora, x, y, EtiquetaTamano(forma), Formato(g.DIAM, "0.000", separador) + " m");
+    if (FormaDe(g) == FormaPilar::Rectangular)
         Fila(impresora, x, y, "Lado menor:", Formato(g.LADOMENOR, "0.000", separador) + " m");
     FilaConSubindice(impresora, x, y, "f", "ck", "fck", Formato(g.FCK, "0", separador) + " N/mm²");
     Fila(impresora, x, y, "Axil actual:", Formato(g.NCP, "0.00", separador) + " kN");
@@ -107,12 +100,12 @@ void Resultados(Impresora& impresora, const Pagina& pagina, double y0, const Res
 }  // namespace
 
 void InformeConfina(Impresora& impresora, General& g, GeneralDibujo& d, const ResultadosCeldaConfina& celda,
-                    int filaSeccion, char separador)
+                    FormaPilar forma, char separador)
 {
     const Pagina pagina = PreparaInforme(impresora, kDocumentoConfina);
     MarcoPagina(impresora, pagina, kTitulo, kLogoConfina);
 
-    DatosGenerales(impresora, pagina, g, filaSeccion, separador);
+    DatosGenerales(impresora, pagina, g, forma, separador);
     const double y0 = DatosAuxiliares(impresora, pagina, g, separador);
     Resultados(impresora, pagina, y0, celda, separador);
 

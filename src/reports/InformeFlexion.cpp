@@ -16,16 +16,24 @@ namespace texalon {
 
 namespace {
 
-// What tells the two sections apart on paper.
-struct Seccion {
+// What tells the reports of the two sections apart on paper.
+struct PapelDeSeccion {
+    SeccionFlexion seccion;
     const char* titulo;
     const char* logo;
     const char* documento;
-    bool enT;
 };
 
-constexpr Seccion kRectangular{"REFUERZO A FLEXION EN SECCIONES RECTANGULARES", kLogoFlexion, kDocumentoFlexion, false};
-constexpr Seccion kEnT{"REFUERZO A FLEXION EN SECCIONES EN T", kLogoFlexionT, kDocumentoFlexionT, true};
+constexpr PapelDeSeccion kPapelRectangular{SeccionFlexion::Rectangular,
+                                           "REFUERZO A FLEXION EN SECCIONES RECTANGULARES", kLogoFlexion,
+                                           kDocumentoFlexion};
+constexpr PapelDeSeccion kPapelT{SeccionFlexion::T, "REFUERZO A FLEXION EN SECCIONES EN T", kLogoFlexionT,
+                                 kDocumentoFlexionT};
+
+const PapelDeSeccion& PapelDe(SeccionFlexion seccion)
+{
+    return seccion == SeccionFlexion::T ? kPapelT : kPapelRectangular;
+}
 
 // The text of the moment of a cell that the calculation refused.
 constexpr std::string_view kSinResultado = "---";
@@ -46,7 +54,7 @@ constexpr char kAnteDosPuntosMomento[] = "MRB";
 
 // The left block: the data of the section, its materials, the safety coefficients, the sheet
 // and the moments. Returns the running Y under its last row.
-double DatosGenerales(Impresora& impresora, const Pagina& pagina, const General& g, const Seccion& seccion,
+double DatosGenerales(Impresora& impresora, const Pagina& pagina, const General& g, SeccionFlexion seccion,
                       char separador)
 {
     const double x = pagina.margenIzquierdo;
@@ -57,7 +65,7 @@ double DatosGenerales(Impresora& impresora, const Pagina& pagina, const General&
     double y = kYPrimeraFila;
     Fila(impresora, x, y, "Ancho:", metros(g.ANCHO));
     Fila(impresora, x, y, "Canto:", metros(g.CANTO));
-    if (seccion.enT) {
+    if (seccion == SeccionFlexion::T) {
         Fila(impresora, x, y, "Ancho del alma:", metros(g.ANCHOALMA));
         Fila(impresora, x, y, "Canto del ala:", metros(g.CANTOALA));
     }
@@ -113,37 +121,40 @@ void ImprimeVeredicto(Impresora& impresora, double y, Veredicto veredicto)
 // Page 1 under the rows: the strain plane on the right and the section to scale on the left,
 // side by side from the running Y `y` of the results down to 5 cm above the bottom margin.
 void DiagramasPagina1(Impresora& impresora, const Pagina& pagina, General& g, GeneralDibujo& d,
-                      const ResultadosCeldaFlexion& celda, double y, bool enT, char separador)
+                      const ResultadosCeldaFlexion& celda, double y, SeccionFlexion seccion,
+                      char separador)
 {
     const double arriba = pagina.margenSuperior + y;
     const double abajo = pagina.margenInferior + kPieDiagramas;
-    (enT ? DiagramaPivotesT : DiagramaPivotes)(g, d, celda, separador);
+    DiagramaPivotesFlexion(g, d, celda, separador);
     ImprimeLista(impresora, d, pagina.margenDerecho, pagina.margenIzquierdo + kBloqueDerecho, arriba, abajo, 0);
-    (enT ? DibujaSeccionT : DibujaSeccion)(g, d, separador);
+    DibujaSeccionFlexion(g, d, seccion, separador);
     ImprimeLista(impresora, d, pagina.margenDerecho + kBloqueDerecho, pagina.margenIzquierdo, arriba, abajo, 1);
 }
 
 // Page 2: the moment against the sheet area in the upper part and against the layers in the
 // lower part, both the full width of the text.
-void DiagramasPagina2(Impresora& impresora, const Pagina& pagina, const General& g, GeneralDibujo& d, bool enT,
-                      char separador)
+void DiagramasPagina2(Impresora& impresora, const Pagina& pagina, const General& g, GeneralDibujo& d, char separador)
 {
-    (enT ? DiagramaMomentoAreaT : DiagramaMomentoArea)(g, d, separador);
+    DiagramaMomentoAreaFlexion(g, d, separador);
     ImprimeLista(impresora, d, pagina.margenDerecho, pagina.margenIzquierdo, pagina.margenSuperior,
                  pagina.margenInferior + kCortePagina2, 0);
-    (enT ? DiagramaMomentoCapasT : DiagramaMomentoCapas)(g, d, separador);
+    DiagramaMomentoCapasFlexion(g, d, separador);
     ImprimeLista(impresora, d, pagina.margenDerecho, pagina.margenIzquierdo, pagina.margenSuperior + kCortePagina2,
                  pagina.margenInferior, 0);
 }
 
-Impresion InformeSeccion(Impresora& impresora, General& g, GeneralDibujo& d, const ResultadosCeldaFlexion& celda,
-                         Veredicto veredicto, char separador, const Seccion& seccion)
+}  // namespace
+
+Impresion InformeFlexionDeSeccion(Impresora& impresora, General& g, GeneralDibujo& d, SeccionFlexion seccion,
+                                  const ResultadosCeldaFlexion& celda, Veredicto veredicto, char separador)
 {
+    const PapelDeSeccion& papel = PapelDe(seccion);
     // A cell refused by the calculation holds "---" in all its results: nothing is printed.
     if (celda.MU == kSinResultado) return Impresion::CeldaRechazada;
 
-    const Pagina pagina = PreparaInforme(impresora, seccion.documento);
-    MarcoPagina(impresora, pagina, seccion.titulo, seccion.logo);
+    const Pagina pagina = PreparaInforme(impresora, papel.documento);
+    MarcoPagina(impresora, pagina, papel.titulo, papel.logo);
     const double yDatos = DatosGenerales(impresora, pagina, g, seccion, separador);
 
     Impresion impresion = Impresion::SoloVeredicto;
@@ -152,27 +163,25 @@ Impresion InformeSeccion(Impresora& impresora, General& g, GeneralDibujo& d, con
     } else {
         impresion = Impresion::ConDiagramas;
         const double yResultados = Resultados(impresora, pagina, celda, separador);
-        DiagramasPagina1(impresora, pagina, g, d, celda, yResultados, seccion.enT, separador);
+        DiagramasPagina1(impresora, pagina, g, d, celda, yResultados, seccion, separador);
         impresora.NewPage();
-        MarcoPagina(impresora, pagina, seccion.titulo, seccion.logo);
-        DiagramasPagina2(impresora, pagina, g, d, seccion.enT, separador);
+        MarcoPagina(impresora, pagina, papel.titulo, papel.logo);
+        DiagramasPagina2(impresora, pagina, g, d, separador);
     }
     impresora.EndDoc();
     return impresion;
 }
 
-}  // namespace
-
 Impresion InformeFlexion(Impresora& impresora, General& g, GeneralDibujo& d, const ResultadosCeldaFlexion& celda,
                          Veredicto veredicto, char separador)
 {
-    return InformeSeccion(impresora, g, d, celda, veredicto, separador, kRectangular);
+    return InformeFlexionDeSeccion(impresora, g, d, SeccionFlexion::Rectangular, celda, veredicto, separador);
 }
 
 Impresion InformeFlexionT(Impresora& impresora, General& g, GeneralDibujo& d, const ResultadosCeldaFlexion& celda,
                           Veredicto veredicto, char separador)
 {
-    return InformeSeccion(impresora, g, d, celda, veredicto, separador, kEnT);
+    return InformeFlexionDeSeccion(impresora, g, d, SeccionFlexion::T, celda, veredicto, separador);
 }
 
 }  // namespace texalon

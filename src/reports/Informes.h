@@ -7,6 +7,7 @@
 #include "engine/Caracteristicas.h"
 #include "platform/Impresora.h"
 #include "state/General.h"
+#include "state/TiposSeccion.h"
 
 #include <string>
 #include <vector>
@@ -52,11 +53,15 @@ Impresion InformeFlexion(Impresora& impresora, General& g, GeneralDibujo& d, con
                          Veredicto veredicto, char separador);
 Impresion InformeFlexionT(Impresora& impresora, General& g, GeneralDibujo& d, const ResultadosCeldaFlexion& celda,
                           Veredicto veredicto, char separador);
+// The body of both, for the section's kind.
+Impresion InformeFlexionDeSeccion(Impresora& impresora, General& g, GeneralDibujo& d, SeccionFlexion seccion,
+                                  const ResultadosCeldaFlexion& celda, Veredicto veredicto, char separador);
 
-// The confinement report of the cell whose texts `celda` holds; `filaSeccion` is the row of the
-// screen's section list (0 circular, 1 square, 2 rectangular, -1 none), which names the shape.
+// The confinement report of the cell whose texts `celda` holds. `forma` is the shape that the
+// screen's section list shows, which names the shape and its size on paper (a number that is no
+// shape, with no row picked, names none); whether the smaller side is printed goes by SECCION.
 void InformeConfina(Impresora& impresora, General& g, GeneralDibujo& d, const ResultadosCeldaConfina& celda,
-                    int filaSeccion, char separador);
+                    FormaPilar forma, char separador);
 
 // The summary of a building's members, the first pages of their joint report: a ruled table
 // with the header row `cabecera` and one row of `filas` a member, in the page frame of every

@@ -108,8 +108,9 @@ FmConfina::FmConfina(QWidget* padre)
     // Selecting the row is a click on the list, with its change steps, before the fields are
     // written: every confinement screen counts as modified from the moment it opens. With a
     // section kind outside the rows no row is selected and nothing runs.
-    if (g.SECCION >= 1 && g.SECCION <= static_cast<int>(FilasSeccion().size())) {
-        seccion_->setCurrentIndex(g.SECCION - 1);
+    const int fila = FilaDeLista(FormaDe(g));
+    if (fila >= 0 && fila < static_cast<int>(FilasSeccion().size())) {
+        seccion_->setCurrentIndex(fila);
         if (const auto alfan = CoeficienteFormaDeFila(seccion_->currentIndex(), g)) g.ALFAN = *alfan;
         CambioSeccion(true);
     }
@@ -117,7 +118,7 @@ FmConfina::FmConfina(QWidget* padre)
         CargaCampo(Regla(nombre));
     EscribeTexto(Control(QStringLiteral("TX_NU")), plataforma::FormatoLocal(g.NU, "0.00"));
     EscribeCoeficienteForma();
-    ActivaLadoMenor(g.SECCION == 3);
+    ActivaLadoMenor(FormaDe(g) == FormaPilar::Rectangular);
     CargaCampo(Regla("CO_FCK"));
 }
 
@@ -190,7 +191,7 @@ bool FmConfina::eventFilter(QObject* objeto, QEvent* evento)
 
 void FmConfina::CambioSeccion(bool porClic)
 {
-    const struct CambioSeccion cambio = texalon::CambiaSeccion(Estado(), seccion_->currentIndex());
+    const CambioDeForma cambio = texalon::CambiaSeccion(Estado(), seccion_->currentIndex());
     ActivaLadoMenor(cambio.ladoMenorActivo);
     if (!cambio.mensaje.empty()) {
         // The handler goes on after the focus has moved: nothing is reset, the section stays.
@@ -220,7 +221,7 @@ void FmConfina::Aceptado(const ReglaCampo& regla)
     EscribeCoeficienteForma();
 }
 
-Entero FmConfina::Forma() const { return static_cast<Entero>(seccion_->currentIndex() + 1); }
+FormaPilar FmConfina::Forma() const { return FormaDeFila(seccion_->currentIndex()); }
 
 // INCR and SECCION are not read here: their own handlers keep them current.
 void FmConfina::LeeCampos(General& g) const
@@ -239,7 +240,7 @@ std::optional<CampoRechazado> FmConfina::CampoQueRechazaAlCalcular() const
 {
     General valores = Estado();
     LeeCampos(valores);
-    valores.SECCION = Forma();
+    valores.SECCION = NumeroDe(Forma());
     return CampoQueRechazaElConfinamiento(valores);
 }
 
@@ -270,7 +271,7 @@ void FmConfina::BajaBandera(General& g) { g.F_CONFINA = false; }
 
 bool FmConfina::Imprime(plataforma::Impresora& impresora)
 {
-    InformeConfina(impresora, Estado(), EstadoDibujo(), celdaMostrada_, seccion_->currentIndex(),
+    InformeConfina(impresora, Estado(), EstadoDibujo(), celdaMostrada_, Forma(),
                    plataforma::ServicioRegional().SeparadorDecimal());
     return true;
 }

@@ -42,8 +42,8 @@ private:
     void CambioSeccion(bool porClic);
     void ActivaLadoMenor(bool activo);
     void EscribeCoeficienteForma();
-    // The section that Calculate takes: the row of CO_SECCION, from 1.
-    Entero Forma() const;
+    // The shape that Calculate takes: the one of the row of CO_SECCION.
+    FormaPilar Forma() const;
     // The fields read into `g` as Calculate reads them.
     void LeeCampos(General& g) const;
 

@@ -58,13 +58,13 @@ const std::vector<const char*> kBotonesResultado = {"CM_ANCLAJE", "CM_ARMADURA",
 
 }  // namespace
 
-FmFlexion::FmFlexion(bool seccionT, QWidget* padre)
-    : FormularioCalculo({seccionT ? QStringLiteral("FM_FLEXIONT") : QStringLiteral("FM_FLEXION"),
-                         seccionT ? QStringLiteral("Cálculo del refuerzo a flexión en secciones T")
+FmFlexion::FmFlexion(SeccionFlexion seccion, QWidget* padre)
+    : FormularioCalculo({seccion == SeccionFlexion::T ? QStringLiteral("FM_FLEXIONT") : QStringLiteral("FM_FLEXION"),
+                         seccion == SeccionFlexion::T ? QStringLiteral("Cálculo del refuerzo a flexión en secciones T")
                                   : QStringLiteral("Cálculo del refuerzo a flexión en secciones rectangulares"),
                          kBotonesResultado, true},
                         padre),
-      seccionT_(seccionT)
+      seccion_(seccion)
 {
     QGridLayout* rejilla = CreaDisposicion();
     rejilla->addWidget(CreaDatos(), 0, 0);
@@ -107,9 +107,9 @@ FmFlexion::FmFlexion(bool seccionT, QWidget* padre)
     ConectaDiagrama("CM_CAPAS", [this] { DiagramaMomentoCapas(); });
 
     std::vector<const char*> orden = {"TX_ANCHO"};
-    if (seccionT_) orden.push_back("TX_ANCHOALMA");
+    if (EsT()) orden.push_back("TX_ANCHOALMA");
     orden.push_back("TX_CANTO");
-    if (seccionT_) orden.push_back("TX_CANTOALA");
+    if (EsT()) orden.push_back("TX_CANTOALA");
     for (const char* nombre :
          {"TX_RECUB", "TX_ASI", "TX_ASS", "TX_MCP", "TX_MD", "CO_FCK", "CM_GAMMA1", "CO_FYK", "CM_GAMMA2", "CO_ANCHOR",
           "CM_CALCULAR", "CM_SECCION", "CM_DEFORMACIONES", "CM_ARMADURA", "CM_CAPAS", "CM_ANCLAJE", "FG_FLEXION"})
@@ -118,13 +118,13 @@ FmFlexion::FmFlexion(bool seccionT, QWidget* padre)
 
     // The load.
     General& g = Estado();
-    if (seccionT)
+    if (EsT())
         g.F_FLEXIONT = true;
     else
         g.F_FLEXION = true;
     g.F_GRABADO = g.F_ABIERTO;
     g.F_NUEVO = !g.F_ABIERTO;
-    for (const ReglaCampo& regla : ReglasFlexion(seccionT_))
+    for (const ReglaCampo& regla : ReglasFlexion(seccion_))
         CargaCampo(regla);
     ActivaResultados(false);
 }
@@ -133,7 +133,7 @@ QWidget* FmFlexion::CreaDatos()
 {
     QGroupBox* marco = CreaMarco("Frame2", QStringLiteral("Datos de la sección"));
     QGridLayout* filas = CreaFilas(marco);
-    const auto& reglas = ReglasFlexion(seccionT_);
+    const auto& reglas = ReglasFlexion(seccion_);
     const auto campo = [&](const char* nombre) -> QWidget* {
         for (const ReglaCampo& regla : reglas)
             if (regla.control == nombre) return CreaCampo(regla, marco);
@@ -144,7 +144,7 @@ QWidget* FmFlexion::CreaDatos()
         AnadeFila(filas, Utf8(r.etiqueta), campo(nombre), Utf8(r.unidad), otro, Utf8(otraUnidad));
     };
     // On the T screen the web width and the flange depth stand beside the width and depth.
-    if (seccionT_) {
+    if (EsT()) {
         QWidget* ancho = campo("TX_ANCHO");
         QWidget* alma = campo("TX_ANCHOALMA");
         AnadeFila(filas, QStringLiteral("Ancho - Ancho alma"), ancho, QStringLiteral("m"), alma, QStringLiteral("m"));
@@ -184,24 +184,23 @@ void FmFlexion::Aceptado(const ReglaCampo& regla)
     if (regla.control == "TX_ANCHO" || regla.control == "TX_ANCHOALMA") EscribeFilasAnchoRefuerzo();
 }
 
-Entero FmFlexion::Seccion() const { return seccionT_ ? kSeccionT : kSeccionRectangular; }
 
 void FmFlexion::LeeCampos(General& g) const
 {
-    for (const ReglaCampo& regla : ReglasFlexion(seccionT_))
+    for (const ReglaCampo& regla : ReglasFlexion(seccion_))
         LeeCampo(g, regla);
 }
 
 ResultadoCalculo FmFlexion::Calcula()
 {
-    return CalculaFlexion(Estado(), Seccion(), [this](General& g) { LeeCampos(g); });
+    return CalculaFlexion(Estado(), seccion_, [this](General& g) { LeeCampos(g); });
 }
 
 std::optional<CampoRechazado> FmFlexion::CampoQueRechazaAlCalcular() const
 {
     General valores = Estado();
     LeeCampos(valores);
-    return CampoQueRechazaLaFlexion(valores, Seccion());
+    return CampoQueRechazaLaFlexion(valores, seccion_);
 }
 
 CeldaResultado FmFlexion::Celda(int tipo, int capas) const
@@ -245,34 +244,33 @@ void FmFlexion::GraficoDelCalculo() { DiagramaMomentoCapas(); }
 void FmFlexion::DiagramaPivotes()
 {
     const char separador = plataforma::ServicioRegional().SeparadorDecimal();
-    const auto pivotes = seccionT_ ? texalon::DiagramaPivotesT : texalon::DiagramaPivotes;
-    pivotes(Estado(), EstadoDibujo(), celdaMostrada_, separador);
+    DiagramaPivotesFlexion(Estado(), EstadoDibujo(), celdaMostrada_, separador);
     MuestraDiagrama(kAnisotropico);
-}
-
-void FmFlexion::Dibuja(Diagrama rectangular, Diagrama t, Entero isotropico)
-{
-    (seccionT_ ? t : rectangular)(Estado(), EstadoDibujo(), plataforma::ServicioRegional().SeparadorDecimal());
-    MuestraDiagrama(isotropico);
 }
 
 void FmFlexion::DiagramaMomentoCapas()
 {
-    Dibuja(texalon::DiagramaMomentoCapas, texalon::DiagramaMomentoCapasT, kAnisotropico);
+    DiagramaMomentoCapasFlexion(Estado(), EstadoDibujo(), plataforma::ServicioRegional().SeparadorDecimal());
+    MuestraDiagrama(kAnisotropico);
 }
 
 void FmFlexion::DiagramaMomentoArea()
 {
-    Dibuja(texalon::DiagramaMomentoArea, texalon::DiagramaMomentoAreaT, kAnisotropico);
+    DiagramaMomentoAreaFlexion(Estado(), EstadoDibujo(), plataforma::ServicioRegional().SeparadorDecimal());
+    MuestraDiagrama(kAnisotropico);
 }
 
-void FmFlexion::DibujaSeccion() { Dibuja(texalon::DibujaSeccion, texalon::DibujaSeccionT, kIsotropico); }
+void FmFlexion::DibujaSeccion()
+{
+    DibujaSeccionFlexion(Estado(), EstadoDibujo(), seccion_, plataforma::ServicioRegional().SeparadorDecimal());
+    MuestraDiagrama(kIsotropico);
+}
 
 bool FmFlexion::Imprime(plataforma::Impresora& impresora)
 {
     const char separador = plataforma::ServicioRegional().SeparadorDecimal();
-    const auto informe = seccionT_ ? InformeFlexionT : InformeFlexion;
-    switch (informe(impresora, Estado(), EstadoDibujo(), celdaMostrada_, VeredictoMostrado(), separador)) {
+    switch (InformeFlexionDeSeccion(impresora, Estado(), EstadoDibujo(), seccion_, celdaMostrada_, VeredictoMostrado(),
+                                    separador)) {
     case Impresion::ConDiagramas: return true;
     case Impresion::SoloVeredicto: break;
     case Impresion::CeldaRechazada:
@@ -284,7 +282,7 @@ bool FmFlexion::Imprime(plataforma::Impresora& impresora)
 
 void FmFlexion::BajaBandera(General& g)
 {
-    if (seccionT_)
+    if (EsT())
         g.F_FLEXIONT = false;
     else
         g.F_FLEXION = false;
@@ -298,7 +296,7 @@ TextosFlexion FmFlexion::Textos() const
     TextosFlexion textos;
     textos.ANCHO = texto("TX_ANCHO");
     textos.CANTO = texto("TX_CANTO");
-    if (seccionT_) {
+    if (EsT()) {
         textos.ANCHOALMA = texto("TX_ANCHOALMA");
         textos.CANTOALA = texto("TX_CANTOALA");
     }
@@ -313,19 +311,13 @@ TextosFlexion FmFlexion::Textos() const
     return textos;
 }
 
-void FmFlexion::CopiaAlEstado()
-{
-    if (seccionT_)
-        CopiaFlexionT(Estado(), Textos());
-    else
-        CopiaFlexion(Estado(), Textos());
-}
+void FmFlexion::CopiaAlEstado() { CopiaFlexionDeSeccion(Estado(), Textos(), seccion_); }
 
 bool FmFlexion::PideFichero(General& g) const { return PideFicheroFlexion(g); }
 
 void FmFlexion::Graba(General& g) const
 {
-    GrabaFlexion(g, g.FICHERO, seccionT_ ? kSeccionT : kSeccionRectangular, AvisoFichero());
+    GrabaFlexion(g, g.FICHERO, seccion_, AvisoFichero());
 }
 
 }  // namespace texalon

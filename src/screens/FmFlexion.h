@@ -13,9 +13,7 @@ class FmFlexion : public FormularioCalculo {
     Q_OBJECT
 public:
     // Load: the open flag, the saved and new flags from F_ABIERTO, the fields from the state.
-    FmFlexion(bool seccionT, QWidget* padre = nullptr);
-
-    bool SeccionT() const { return seccionT_; }
+    FmFlexion(SeccionFlexion seccion, QWidget* padre = nullptr);
 
     // ResultadosFlexion or ResultadosFlexionT: the results of one cell in the results panel.
     void ResultadosFlexion(int tipo, int capas);
@@ -41,20 +39,19 @@ private:
     QWidget* CreaDatos();
     void EscribeFilasAnchoRefuerzo();
     TextosFlexion Textos() const;
-    Entero Seccion() const;  // kSeccionRectangular or kSeccionT
     // The fields read into `g` as Calculate reads them.
     void LeeCampos(General& g) const;
 
-    // The diagrams of the screen on its picture, each the rectangular or T procedure as the
-    // screen is, shown with the procedure's isotropic setting.
-    using Diagrama = void (*)(const General&, GeneralDibujo&, char);
-    void Dibuja(Diagrama rectangular, Diagrama t, Entero isotropico);
+    bool EsT() const { return seccion_ == SeccionFlexion::T; }
+
+    // The diagrams of the screen on its picture, each the body of the rectangular and T twins,
+    // shown with the procedure's isotropic setting.
     void DiagramaPivotes();
     void DiagramaMomentoCapas();
     void DiagramaMomentoArea();
     void DibujaSeccion();
 
-    bool seccionT_;
+    SeccionFlexion seccion_;
     // The texts of the cell that the result fields show: the strain diagram reads them.
     ResultadosCeldaFlexion celdaMostrada_;
 };

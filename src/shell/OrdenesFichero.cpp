@@ -73,23 +73,17 @@ void MdiPrincipal::LeeProyecto(const plataforma::FicheroElegido& elegido)
     g.DIRECTORIO = elegido.directorio.toStdString();
 
     // The extension decides the reader, not the contents; any other name is ignored in silence.
-    switch (ClaseDe(g.FICHERO)) {
-    case ClaseFichero::Flexion: {
-        Entero seccion = 0;
-        LeeFlexion(g, g.FICHERO, seccion, AvisoFichero());
-        if (g.F_ERROR) break;
-        g.F_ABIERTO = true;
-        if (seccion == 1) MuestraPantalla(Pantalla::Flexion);
-        if (seccion == 2) MuestraPantalla(Pantalla::FlexionT);
-        break;
-    }
-    case ClaseFichero::Confinamiento:
-        LeeConfina(g, g.FICHERO, AvisoFichero());
-        if (g.F_ERROR) break;
-        g.F_ABIERTO = true;
-        MuestraPantalla(Pantalla::Confina);
-        break;
+    const ClaseFichero clase = ClaseDe(g.FICHERO);
+    SeccionFlexion seccion = SeccionFlexion::Rectangular;
+    switch (clase) {
+    case ClaseFichero::Flexion: LeeFlexion(g, g.FICHERO, seccion, AvisoFichero()); break;
+    case ClaseFichero::Confinamiento: LeeConfina(g, g.FICHERO, AvisoFichero()); break;
     case ClaseFichero::Ninguna: return;
+    }
+    if (!g.F_ERROR) {
+        g.F_ABIERTO = true;
+        // The table of screens tells which one shows the project.
+        if (const FilaPantalla* fila = FilaDeProyecto(clase, seccion)) MuestraPantalla(fila->pantalla);
     }
     // The reader has loaded its defaults already; no screen opens.
     if (g.F_ERROR)

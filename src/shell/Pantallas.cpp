@@ -10,13 +10,15 @@ namespace texalon {
 
 namespace {
 
+using enum SeccionFlexion;
+
 // clang-format off
 constexpr FilaPantalla kPantallas[] = {
-    // screen             window          open flag             help turns: F1 About  file   New's start values          made by
-    {Pantalla::Flexion,  "FM_FLEXION",  &General::F_FLEXION,  32,    1,   1,        true,  &ValoresFlexion,            [] () -> Formulario* { return new FmFlexion(false); }},
-    {Pantalla::Confina,  "FM_CONFINA",  &General::F_CONFINA,  33,    3,   3,        true,  &ValoresNuevoConfinamiento, [] () -> Formulario* { return new FmConfina; }},
-    {Pantalla::Carac,    "FM_CARAC",    &General::F_CARAC,    31,    2,   0,        false, nullptr,                    [] () -> Formulario* { return new FmCarac; }},
-    {Pantalla::FlexionT, "FM_FLEXIONT", &General::F_FLEXIONT, 34,    4,   2,        true,  &ValoresFlexion,            [] () -> Formulario* { return new FmFlexion(true); }},
+    // screen             window          open flag             help turns: F1 About  file   files opened on it                   New's start values          made by
+    {Pantalla::Flexion,  "FM_FLEXION",  &General::F_FLEXION,  32,    1,   1,        true,  ClaseFichero::Flexion,       Rectangular, &ValoresFlexion,            [] () -> Formulario* { return new FmFlexion(Rectangular); }},
+    {Pantalla::Confina,  "FM_CONFINA",  &General::F_CONFINA,  33,    3,   3,        true,  ClaseFichero::Confinamiento, Rectangular, &ValoresNuevoConfinamiento, [] () -> Formulario* { return new FmConfina; }},
+    {Pantalla::Carac,    "FM_CARAC",    &General::F_CARAC,    31,    2,   0,        false, ClaseFichero::Ninguna,       Rectangular, nullptr,                    [] () -> Formulario* { return new FmCarac; }},
+    {Pantalla::FlexionT, "FM_FLEXIONT", &General::F_FLEXIONT, 34,    4,   2,        true,  ClaseFichero::Flexion,       T,           &ValoresFlexion,            [] () -> Formulario* { return new FmFlexion(T); }},
 };
 // clang-format on
 
@@ -35,6 +37,16 @@ const FilaPantalla* FilaDeNombre(const char* nombre)
 {
     for (const FilaPantalla& fila : kPantallas)
         if (std::strcmp(fila.nombre, nombre) == 0) return &fila;
+    return nullptr;
+}
+
+const FilaPantalla* FilaDeProyecto(ClaseFichero clase, SeccionFlexion seccion)
+{
+    for (const FilaPantalla& fila : kPantallas) {
+        if (clase == ClaseFichero::Ninguna || fila.clase != clase) continue;
+        // A confinement file has one screen, whatever the section kind says.
+        if (clase != ClaseFichero::Flexion || fila.seccion == seccion) return &fila;
+    }
     return nullptr;
 }
 

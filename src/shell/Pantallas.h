@@ -7,7 +7,9 @@
 // have orders of their own, given as turns. A fifth screen would be one row more.
 #pragma once
 
+#include "files/Ficheros.h"
 #include "state/General.h"
+#include "state/TiposSeccion.h"
 
 #include <span>
 
@@ -27,6 +29,10 @@ struct FilaPantalla {
     // Whether the screen holds a project file: Save and Save As work on it, and Print wants
     // its results calculated for its data first.
     bool conProyecto;
+    // The project files that Open shows on it: their kind and, for flexure, the section kind of
+    // their line 1. None for a screen without a file.
+    ClaseFichero clase;
+    SeccionFlexion seccion;
     // The start values that its New command writes; none for a screen that New does not
     // start (the characteristics leave the state as it is).
     void (*valoresIniciales)(General& g);
@@ -39,6 +45,8 @@ std::span<const FilaPantalla> FilasPantallas();
 const FilaPantalla& FilaDe(Pantalla pantalla);
 // The row of a window's name; none for a window that is no screen.
 const FilaPantalla* FilaDeNombre(const char* nombre);
+// The screen that shows a project read from a file of that kind and section; none for none.
+const FilaPantalla* FilaDeProyecto(ClaseFichero clase, SeccionFlexion seccion);
 
 // The screen whose open flag is up, tested in the order of the rows: the one to close first,
 // the one to save. `conProyecto` keeps to the screens that hold a project file.

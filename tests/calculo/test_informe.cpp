@@ -148,7 +148,7 @@ TEST(InformeCalculo, EsElInformeDeImprimirParaLaCeldaElegida)
     General g;
     ValoresIniciales(g);
     g.MD = 250.0;
-    const ResultadoCalculo calculo = CalculaFlexion(g, 1, [](General&) {});
+    const ResultadoCalculo calculo = CalculaFlexion(g, SeccionFlexion::Rectangular, [](General&) {});
     GeneralDibujo d;
     ImpresoraDoble esperada;
     ASSERT_EQ(InformeFlexion(esperada, g, d, ResultadosFlexion(g, 2, 4, '.'), calculo.veredicto, '.'),

@@ -20,7 +20,7 @@ TEST(CalculaFichero, RectangularPorDefecto)
     const CalculoFichero calculo = CalculaFichero(directorio.Escribe("viga.vmf", prueba::kFlexionRectangular));
     ASSERT_TRUE(calculo.Correcto());
     EXPECT_EQ(calculo.clase, ClaseFichero::Flexion);
-    EXPECT_EQ(calculo.seccion, kSeccionRectangular);
+    EXPECT_EQ(calculo.seccion, SeccionFlexion::Rectangular);
     EXPECT_EQ(NombreTipo(calculo), "rectangular");
     EXPECT_EQ(calculo.veredicto, Veredicto::NoEsNecesario);
     const General& g = calculo.g;
@@ -39,7 +39,7 @@ TEST(CalculaFichero, SeccionTPorDefecto)
     DirectorioTemporal directorio;
     const CalculoFichero calculo = CalculaFichero(directorio.Escribe("viga.VMF", prueba::kFlexionT));
     ASSERT_TRUE(calculo.Correcto());
-    EXPECT_EQ(calculo.seccion, kSeccionT);
+    EXPECT_EQ(calculo.seccion, SeccionFlexion::T);
     EXPECT_EQ(NombreTipo(calculo), "T");
     EXPECT_TRUE(calculo.g.MU.Existe());
     EXPECT_TRUE(calculo.g.LANC.Existe());

@@ -56,7 +56,7 @@ const ReglaCampo& ReglaDe(const std::vector<ReglaCampo>& reglas, CampoEstado cam
 // The lines of a flexure file after its kind, and of a confinement file after its shape.
 Clase Flexion(bool seccionT)
 {
-    const auto& reglas = ReglasFlexion(seccionT);
+    const auto& reglas = ReglasFlexion(seccionT ? SeccionFlexion::T : SeccionFlexion::Rectangular);
     std::vector<CampoEstado> orden{&General::ANCHO, &General::CANTO};
     if (seccionT) orden.insert(orden.end(), {&General::ANCHOALMA, &General::CANTOALA});
     orden.insert(orden.end(), {&General::RECUB, &General::ASI, &General::ASS, &General::FCK, &General::FYK, &General::GC,

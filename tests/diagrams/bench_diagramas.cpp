@@ -17,9 +17,9 @@ General Calculado(bool confinamiento)
     g.MD = 250.0;
     const LeeCampos nada = [](General&) {};
     if (confinamiento)
-        CalculaConfinamiento(g, g.SECCION, nada);
+        CalculaConfinamiento(g, FormaDe(g), nada);
     else
-        CalculaFlexion(g, 1, nada);
+        CalculaFlexion(g, SeccionFlexion::Rectangular, nada);
     return g;
 }
 

@@ -27,7 +27,7 @@ General ProyectoInicial()
 {
     General g;
     ValoresIniciales(g);
-    CalculaConfinamiento(g, g.SECCION, [](General&) {});
+    CalculaConfinamiento(g, FormaDe(g), [](General&) {});
     return g;
 }
 

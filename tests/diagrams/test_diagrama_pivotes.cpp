@@ -53,7 +53,7 @@ void EsperaPuntoDeRotura(const GeneralDibujo& d, double x)
 
 // The default rectangular project, calculated: every cell of L and H and the first two of X
 // have a value, all at pivot R, without initial strain.
-General CalculadoPorDefecto(Entero seccion = 1)
+General CalculadoPorDefecto(SeccionFlexion seccion = SeccionFlexion::Rectangular)
 {
     General g;
     ValoresIniciales(g);
@@ -70,7 +70,7 @@ General CalculadoConPredeformacion()
     g.ASI = 30.0;
     g.ASS = 4.0;
     g.MCP = 100.0;
-    CalculaFlexion(g, 1, [](General&) {});
+    CalculaFlexion(g, SeccionFlexion::Rectangular, [](General&) {});
     return g;
 }
 
@@ -167,7 +167,7 @@ TEST(DiagramaPivotes, SoloEscribeLaLista)
 
 TEST(DiagramaPivotesT, MismaListaQueLaRectangular)
 {
-    General g = CalculadoPorDefecto(2);
+    General g = CalculadoPorDefecto(SeccionFlexion::T);
     const ResultadosCeldaFlexion celda = ResultadosFlexion(g, 1, 1, ',');
     ASSERT_EQ(std::tie(celda.EPSC, celda.EPSR, celda.EPSSI, celda.EPSSS, celda.FN, celda.PIVOTE),
               std::tuple("1,99", "9,64", "8,67", "1,02", "0,103", "R"));

@@ -38,7 +38,7 @@ General ProyectoInicial()
 {
     General g;
     ValoresIniciales(g);
-    CalculaFlexion(g, 1, [](General&) {});
+    CalculaFlexion(g, SeccionFlexion::Rectangular, [](General&) {});
     return g;
 }
 

@@ -17,17 +17,20 @@ General ProyectoCon(Cambio cambia)
     return g;
 }
 
-// One whole Calculate of a project of that kind (1 rectangular, 2 T, or the column's form),
-// over and over.
-void Calculo(benchmark::State& estado, General g, bool flexion, Entero clase)
+// One whole Calculate of a project, over and over.
+template <class Calcula>
+void Calculo(benchmark::State& estado, General g, Calcula calcula)
 {
-    for (auto _ : estado)
-        benchmark::DoNotOptimize(flexion ? CalculaFlexion(g, clase, nullptr) : CalculaConfinamiento(g, clase, nullptr));
+    for (auto _ : estado) benchmark::DoNotOptimize(calcula(g));
 }
 
-BENCHMARK_CAPTURE(Calculo, FlexionRectangular, ProyectoCon([](General& g) { g.MCP = 50.0; }), true, 1);
-BENCHMARK_CAPTURE(Calculo, FlexionT, ProyectoCon([](General& g) { g.CANTOALA = 0.05; g.MCP = 50.0; }), true, 2);
-BENCHMARK_CAPTURE(Calculo, Confinamiento, ProyectoCon([](General& g) { g.NCP = 1000.0; }), false, 1);
+const auto kFlexionRectangular = [](General& g) { return CalculaFlexion(g, SeccionFlexion::Rectangular, nullptr); };
+const auto kFlexionT = [](General& g) { return CalculaFlexion(g, SeccionFlexion::T, nullptr); };
+const auto kConfinamiento = [](General& g) { return CalculaConfinamiento(g, FormaPilar::Circular, nullptr); };
+
+BENCHMARK_CAPTURE(Calculo, FlexionRectangular, ProyectoCon([](General& g) { g.MCP = 50.0; }), kFlexionRectangular);
+BENCHMARK_CAPTURE(Calculo, FlexionT, ProyectoCon([](General& g) { g.CANTOALA = 0.05; g.MCP = 50.0; }), kFlexionT);
+BENCHMARK_CAPTURE(Calculo, Confinamiento, ProyectoCon([](General& g) { g.NCP = 1000.0; }), kConfinamiento);
 
 }  // namespace
 }  // namespace texalon

@@ -30,7 +30,7 @@ TEST(Barrido, TodasLasBusquedasDeFlexionTerminan)
     General g;
     ValoresIniciales(g);
     int calculos = 0;
-    for (Entero seccion : {kSeccionRectangular, kSeccionT})
+    for (SeccionFlexion seccion : {SeccionFlexion::Rectangular, SeccionFlexion::T})
         for (double ancho : {0.01, 0.15, 0.4, 1.0, 4.0, 10.0})
             for (double canto : {0.02, 0.25, 0.6, 1.5, 10.0})
                 for (double recub : {0.01, canto / 4.0, canto / 2.0})
@@ -61,7 +61,7 @@ TEST(Barrido, CoeficientesYMomentosExtremos)
     for (double coeficiente : {1.0, 1.5, 3.0, 10.0})
         for (double mcp : {-500.0, 0.0, 20.0, 60.0})
             for (double anchor : {0.01, 0.125, 0.4})
-                for (Entero seccion : {kSeccionRectangular, kSeccionT}) {
+                for (SeccionFlexion seccion : {SeccionFlexion::Rectangular, SeccionFlexion::T}) {
                     ValoresFlexion(g);
                     g.GC = g.GS = g.GR = coeficiente;
                     g.MCP = mcp;
@@ -78,7 +78,7 @@ TEST(Barrido, PredeformacionMuyNegativaNoCuelgaLaBusqueda)
     ValoresIniciales(g);
     g.GR = 1.0;
     g.MCP = -500.0;
-    const ResultadoCalculo r = CalculaFlexion(g, kSeccionRectangular, nullptr);
+    const ResultadoCalculo r = CalculaFlexion(g, SeccionFlexion::Rectangular, nullptr);
     EXPECT_FALSE(r.predeformacionExcesiva);
     EXPECT_LT(g.EPS0 + g.EPSD(1), 0.0);
     EXPECT_TRUE(g.F_CALCULADO);
@@ -90,7 +90,7 @@ TEST(Barrido, SeccionesEnormesTerminan)
     General g;
     ValoresIniciales(g);
     for (double lado : {100.0, 1.0e4, 1.0e6})
-        for (Entero seccion : {kSeccionRectangular, kSeccionT}) {
+        for (SeccionFlexion seccion : {SeccionFlexion::Rectangular, SeccionFlexion::T}) {
             ValoresFlexion(g);
             g.ANCHO = lado;
             g.CANTO = lado;
@@ -122,7 +122,7 @@ TEST(Barrido, TodasLasIteracionesDeConfinamientoTerminan)
                             g.NCP = ncp;
                             g.GC = coeficiente;
                             g.GR = coeficiente;
-                            if (CalculaConfinamiento(g, forma, nullptr).predeformacionExcesiva) continue;
+                            if (CalculaConfinamiento(g, FormaDe(g), nullptr).predeformacionExcesiva) continue;
                             ++calculos;
                             for (int t = 1; t <= 3; ++t)
                                 for (int n = 1; n <= 5; ++n) {

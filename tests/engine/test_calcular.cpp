@@ -23,7 +23,7 @@ General Proyecto()
     return g;
 }
 
-ResultadoCalculo Flexion(General& g, Entero seccion = kSeccionRectangular)
+ResultadoCalculo Flexion(General& g, SeccionFlexion seccion = SeccionFlexion::Rectangular)
 {
     return CalculaFlexion(g, seccion, nullptr);
 }
@@ -139,11 +139,11 @@ TEST(CalculaFlexion, PredeformacionExcesivaTrasUnCalculoBuenoBorraLosArreglosYNo
 TEST(CalculaFlexion, PredeformacionDeDosPorMilExactaPasa)
 {
     General g = Proyecto();
-    const SeccionFisurada f = AnalisisElastico(g, kSeccionRectangular);
+    const SeccionFisurada f = AnalisisElastico(g, SeccionFlexion::Rectangular);
     g.MCP = 0.002 * (f.EC * 1000.0) * f.I / (g.CANTO - f.X);
     // Walk MCP by single steps of the double until the strain is 0.002 to the last bit.
     for (int paso = 0; paso < 64; ++paso) {
-        Predeformacion(g, kSeccionRectangular);
+        Predeformacion(g, SeccionFlexion::Rectangular);
         if (g.EPS0 == 0.002) break;
         g.MCP = std::nextafter(g.MCP, g.EPS0 > 0.002 ? 0.0 : 1e9);
     }
@@ -151,7 +151,7 @@ TEST(CalculaFlexion, PredeformacionDeDosPorMilExactaPasa)
     EXPECT_FALSE(Flexion(g).predeformacionExcesiva);
     EXPECT_TRUE(g.F_CALCULADO);
     g.MCP = std::nextafter(g.MCP, 1e9);
-    while (Predeformacion(g, kSeccionRectangular), g.EPS0 == 0.002)
+    while (Predeformacion(g, SeccionFlexion::Rectangular), g.EPS0 == 0.002)
         g.MCP = std::nextafter(g.MCP, 1e9);
     EXPECT_TRUE(Flexion(g).predeformacionExcesiva);
 }
@@ -160,7 +160,7 @@ TEST(CalculaFlexion, LeeLosCamposDespuesDeAsignarYAntesDeCalcular)
 {
     General g = Proyecto();
     bool leido = false;
-    CalculaFlexion(g, kSeccionRectangular, [&leido](General& e) {
+    CalculaFlexion(g, SeccionFlexion::Rectangular, [&leido](General& e) {
         EXPECT_TRUE(e.MU.Existe());
         EXPECT_TRUE(e.F_CALCULANDO);
         EXPECT_FALSE(e.F_CALCULADO);
@@ -190,7 +190,7 @@ TEST(CalculaFlexion, SeccionTUsaRoturaTYMomentoSinRefuerzoT)
 {
     General g = Proyecto();
     g.CANTOALA = 0.05;
-    Flexion(g, kSeccionT);
+    Flexion(g, SeccionFlexion::T);
     EXPECT_EQ(A2(g.MU(1, 1)), "230.98");
     EXPECT_EQ(A2(g.MU(1, 5)), "270.67");
     EXPECT_LT(g.MUSR, 222.45);
@@ -242,7 +242,7 @@ TEST(CalculaFlexion, MaximoEnLaFilaDelTipoL)
 TEST(CalculaConfinamiento, IncrementoUnoDejaElLetreroOculto)
 {
     General g = Proyecto();
-    const ResultadoCalculo r = CalculaConfinamiento(g, g.SECCION, nullptr);
+    const ResultadoCalculo r = CalculaConfinamiento(g, FormaDe(g), nullptr);
     EXPECT_FALSE(r.predeformacionExcesiva);
     EXPECT_EQ(r.veredicto, Veredicto::Oculto);
     EXPECT_TRUE(g.F_CALCULADO);
@@ -253,7 +253,7 @@ TEST(CalculaConfinamiento, IncrementoDosNoSePuedeReforzarConLaTablaLlena)
 {
     General g = Proyecto();
     g.INCR = 2.0;
-    const ResultadoCalculo r = CalculaConfinamiento(g, g.SECCION, nullptr);
+    const ResultadoCalculo r = CalculaConfinamiento(g, FormaDe(g), nullptr);
     EsperaVeredicto(r, Veredicto::NoSePuede, " NO SE PUEDE REFORZAR LA SECCION ");
     for (int t = 1; t <= 3; ++t)
         for (int n = 1; n <= 5; ++n) {
@@ -267,7 +267,7 @@ TEST(CalculaConfinamiento, PredeformacionExcesivaPara)
     General g = Proyecto();
     g.NCP = 20000.0;
     g.F_CALCULADO = false;
-    const ResultadoCalculo r = CalculaConfinamiento(g, g.SECCION, nullptr);
+    const ResultadoCalculo r = CalculaConfinamiento(g, FormaDe(g), nullptr);
     EXPECT_TRUE(r.predeformacionExcesiva);
     EXPECT_FALSE(g.F_CALCULADO);
     ASSERT_TRUE(g.RESU.Existe());
@@ -294,7 +294,7 @@ TEST(CalculaConfinamiento, PredeformacionDeDosPorMilExactaPasa)
     }
     ASSERT_EQ(g.EPS0, 0.002);
     g.F_CALCULADO = false;
-    const ResultadoCalculo r = CalculaConfinamiento(g, g.SECCION, nullptr);
+    const ResultadoCalculo r = CalculaConfinamiento(g, FormaDe(g), nullptr);
     EXPECT_FALSE(r.predeformacionExcesiva);
     EXPECT_TRUE(g.F_CALCULADO);
     // No strain is left for the concrete to reach: the sheet takes none and adds nothing.
@@ -309,7 +309,7 @@ TEST(CalculaConfinamiento, PredeformacionDeDosPorMilExactaPasa)
     while (PredeformacionConfina(g), g.EPS0 == 0.002)
         g.NCP = std::nextafter(g.NCP, 1e9);
     g.F_CALCULADO = false;
-    EXPECT_TRUE(CalculaConfinamiento(g, g.SECCION, nullptr).predeformacionExcesiva);
+    EXPECT_TRUE(CalculaConfinamiento(g, FormaDe(g), nullptr).predeformacionExcesiva);
     EXPECT_FALSE(g.F_CALCULADO);
 }
 
@@ -317,7 +317,7 @@ TEST(CalculaConfinamiento, LaFormaDelCalculoEsLaDeLaLista)
 {
     General g = Proyecto();
     // SECCION gives the initial strain; the list's shape gives the calculation.
-    CalculaConfinamiento(g, 3, nullptr);
+    CalculaConfinamiento(g, FormaPilar::Rectangular, nullptr);
     EXPECT_EQ(Formato(g.RESU(1, 1), "0.00000", '.'), "1.00581");
 }
 
@@ -341,10 +341,10 @@ TEST(AritmeticaVigilada, CoeficienteCeroEsDivisionPorCero)
 {
     General g = Proyecto();
     g.GC = 0.0;  // a project file may hold it: the coefficients are not checked at reading
-    EXPECT_EQ(ErrorDe([&g] { CalculaFlexion(g, kSeccionRectangular, nullptr); }), 11);
+    EXPECT_EQ(ErrorDe([&g] { CalculaFlexion(g, SeccionFlexion::Rectangular, nullptr); }), 11);
     General c = Proyecto();
     c.GR = 0.0;
-    EXPECT_EQ(ErrorDe([&c] { CalculaConfinamiento(c, 1, nullptr); }), 11);
+    EXPECT_EQ(ErrorDe([&c] { CalculaConfinamiento(c, FormaPilar::Circular, nullptr); }), 11);
     EXPECT_EQ(ErrorDe([&c] { LongitudAnclaje(c); }), 11);
 }
 
@@ -354,14 +354,14 @@ TEST(AritmeticaVigilada, DesbordamientoEsElErrorSeis)
     g.ANCHO = 1e300;
     g.CANTO = 1e300;
     g.ANCHOR = 1e300;
-    EXPECT_EQ(ErrorDe([&g] { CalculaFlexion(g, kSeccionRectangular, nullptr); }), 6);
+    EXPECT_EQ(ErrorDe([&g] { CalculaFlexion(g, SeccionFlexion::Rectangular, nullptr); }), 6);
 }
 
 TEST(AritmeticaVigilada, UnCalculoSanoNoDaError)
 {
     General g = Proyecto();
-    EXPECT_EQ(ErrorDe([&g] { CalculaFlexion(g, kSeccionT, nullptr); }), 0);
-    EXPECT_EQ(ErrorDe([&g] { CalculaConfinamiento(g, 3, nullptr); }), 0);
+    EXPECT_EQ(ErrorDe([&g] { CalculaFlexion(g, SeccionFlexion::T, nullptr); }), 0);
+    EXPECT_EQ(ErrorDe([&g] { CalculaConfinamiento(g, FormaPilar::Rectangular, nullptr); }), 0);
     EXPECT_EQ(ErrorDe([&g] { LongitudAnclaje(g); }), 0);
 }
 

@@ -42,7 +42,7 @@ void EsperaEjeEInercia(const SeccionFisurada& f, const char* x, const char* iner
 }
 
 // The initial strain that the section gets, to the decimals of the reference.
-void EsperaPredeformacion(General& g, Entero seccion, const char* eps0)
+void EsperaPredeformacion(General& g, SeccionFlexion seccion, const char* eps0)
 {
     Predeformacion(g, seccion);
     EXPECT_EQ(A(g.EPS0, 8), eps0);
@@ -64,11 +64,11 @@ TEST(Predeformacion, SeccionPorDefectoConMcpCien)
 {
     General g = ProyectoPorDefecto();
     g.MCP = 100.0;
-    const SeccionFisurada f = AnalisisElastico(g, kSeccionRectangular);
+    const SeccionFisurada f = AnalisisElastico(g, SeccionFlexion::Rectangular);
     EXPECT_EQ(A(f.EC, 2), "27264.04");
     EXPECT_EQ(A(f.N, 5), "7.33567");
     EsperaEjeEInercia(f, "0.124872", "0.00158542");
-    EsperaPredeformacion(g, kSeccionRectangular, "0.00109920");
+    EsperaPredeformacion(g, SeccionFlexion::Rectangular, "0.00109920");
 }
 
 TEST(Predeformacion, SeccionTConElEjeEnElAlma)
@@ -77,9 +77,9 @@ TEST(Predeformacion, SeccionTConElEjeEnElAlma)
     g.CANTOALA = 0.05;
     g.MCP = 100.0;
     // The rectangular depth exceeds the flange, so the axis is sought again with the web.
-    EXPECT_GT(AnalisisElastico(g, kSeccionRectangular).X, g.CANTOALA);
-    EsperaEjeEInercia(AnalisisElastico(g, kSeccionT), "0.137730", "0.00155016");
-    EsperaPredeformacion(g, kSeccionT, "0.00109378");
+    EXPECT_GT(AnalisisElastico(g, SeccionFlexion::Rectangular).X, g.CANTOALA);
+    EsperaEjeEInercia(AnalisisElastico(g, SeccionFlexion::T), "0.137730", "0.00155016");
+    EsperaPredeformacion(g, SeccionFlexion::T, "0.00109378");
 }
 
 TEST(Predeformacion, SeccionTConElEjeEnElAlmaYArmaduraSuperiorPorLosMomentosEstaticos)
@@ -107,7 +107,7 @@ TEST(Predeformacion, SeccionTConElEjeEnElAlmaYArmaduraSuperiorPorLosMomentosEsta
     EXPECT_EQ(A(X, 6), "0.210598");
     EXPECT_EQ(A(I, 8), "0.00369351");
 
-    const SeccionFisurada f = AnalisisElastico(g, kSeccionT);
+    const SeccionFisurada f = AnalisisElastico(g, SeccionFlexion::T);
     EXPECT_NEAR(f.X, X, 1e-12);
     EXPECT_NEAR(f.I, I, 1e-15);
 }
@@ -116,9 +116,9 @@ TEST(Predeformacion, SeccionTConElEjeEnLaAlaEsLaRectangular)
 {
     General g = ProyectoPorDefecto();
     g.MCP = 100.0;  // X = 0.124872 lies in the flange of 0.2
-    Predeformacion(g, kSeccionT);
+    Predeformacion(g, SeccionFlexion::T);
     const double t = g.EPS0;
-    Predeformacion(g, kSeccionRectangular);
+    Predeformacion(g, SeccionFlexion::Rectangular);
     EXPECT_EQ(t, g.EPS0);
 }
 
@@ -126,11 +126,11 @@ TEST(Predeformacion, McpCeroDaCeroYOtroTipoNoTocaEps0)
 {
     General g = ProyectoPorDefecto();
     g.EPS0 = 0.5;
-    Predeformacion(g, kSeccionRectangular);
+    Predeformacion(g, SeccionFlexion::Rectangular);
     EXPECT_EQ(g.EPS0, 0.0);
     g.EPS0 = 0.5;
     g.MCP = 100.0;
-    Predeformacion(g, 3);
+    Predeformacion(g, static_cast<SeccionFlexion>(3));
     EXPECT_EQ(g.EPS0, 0.5);
 }
 
@@ -138,7 +138,7 @@ TEST(Predeformacion, McpNegativoDaPredeformacionNegativa)
 {
     General g = ProyectoPorDefecto();
     g.MCP = -100.0;
-    Predeformacion(g, kSeccionRectangular);
+    Predeformacion(g, SeccionFlexion::Rectangular);
     EXPECT_EQ(A(g.EPS0, 8), "-0.00109920");
 }
 
@@ -163,13 +163,13 @@ TEST(Predeformacion, SeccionConArmaduraSuperiorPorLaSeccionTransformada)
     EXPECT_EQ(A(X, 6), "0.116136");
     EXPECT_EQ(A(eps0, 8), "0.00109430");
 
-    const SeccionFisurada f = AnalisisElastico(g, kSeccionRectangular);
+    const SeccionFisurada f = AnalisisElastico(g, SeccionFlexion::Rectangular);
     EXPECT_NEAR(f.X, X, 1e-12);
     EXPECT_NEAR(f.I, I, 1e-15);
-    Predeformacion(g, kSeccionRectangular);
+    Predeformacion(g, SeccionFlexion::Rectangular);
     EXPECT_NEAR(g.EPS0, eps0, 1e-15);
     // The T section whose flange holds the axis gives the same strain.
-    Predeformacion(g, kSeccionT);
+    Predeformacion(g, SeccionFlexion::T);
     EXPECT_NEAR(g.EPS0, eps0, 1e-15);
 }
 
@@ -584,7 +584,7 @@ TEST(RoturaRectangular, VigaPequenaLlenaDeAceroGiraEnBPorUnEquilibrioAMano)
     const double I = 0.2 * X * X * X / 3.0 + N * A1 * (0.15 - X) * (0.15 - X);
     const double eps0 = (0.2 - X) * 80.0 / (EC * 1000.0 * I);
     ASSERT_LT(eps0, 0.002);
-    Predeformacion(g, kSeccionRectangular);
+    Predeformacion(g, SeccionFlexion::Rectangular);
     ASSERT_NEAR(g.EPS0, eps0, 1e-15);
 
     // One layer of each type. L: 230000 × 0.111 = 25530 N/mm, KM = 0.9404 capped at 0.9;
@@ -625,10 +625,10 @@ TEST(RoturaRectangular, VigaPequenaLlenaDeAceroGiraEnBPorUnEquilibrioAMano)
 
 TEST(CoeficienteForma, CadaFormaDeLaColumna)
 {
-    EXPECT_EQ(CoeficienteForma(1, 0.5, 0.4), 1.0);
-    EXPECT_EQ(CoeficienteForma(2, 0.5, 0.4), 1.0 - 2.0 / 3.0);
-    EXPECT_EQ(CoeficienteForma(3, 0.3, 0.4), 0.5);
-    EXPECT_EQ(A(CoeficienteForma(3, 0.5, 0.4), 6), "0.166667");
+    EXPECT_EQ(CoeficienteForma(FormaPilar::Circular, 0.5, 0.4), 1.0);
+    EXPECT_EQ(CoeficienteForma(FormaPilar::Cuadrada, 0.5, 0.4), 1.0 - 2.0 / 3.0);
+    EXPECT_EQ(CoeficienteForma(FormaPilar::Rectangular, 0.3, 0.4), 0.5);
+    EXPECT_EQ(A(CoeficienteForma(FormaPilar::Rectangular, 0.5, 0.4), 6), "0.166667");
 }
 
 // ---------------------------------------------------------------- T section
@@ -796,7 +796,7 @@ TEST(CalculoConfina, TablaDeIncrementosDeResistencia)
         g.SECCION = f.forma;
         PredeformacionConfina(g);
         ASSERT_EQ(g.EPS0, 0.0);
-        CalculoConfina(g, f.forma, g.DIAM, g.LADOMENOR, g.FCK, f.tipo);
+        CalculoConfina(g, FormaDe(g), g.DIAM, g.LADOMENOR, g.FCK, f.tipo);
         for (int n = 1; n <= 5; ++n)
             EXPECT_EQ(A(g.RESU(f.tipo, n), 5), f.resu[n - 1])
                 << "forma " << f.forma << ", tipo " << f.tipo << ", " << n;
@@ -806,7 +806,7 @@ TEST(CalculoConfina, TablaDeIncrementosDeResistencia)
 TEST(CalculoConfina, TipoXCircularDejaDeCrecerDesdeCuatroCapas)
 {
     General g = ProyectoPorDefecto();
-    CalculoConfina(g, 1, g.DIAM, g.LADOMENOR, g.FCK, 3);
+    CalculoConfina(g, FormaPilar::Circular, g.DIAM, g.LADOMENOR, g.FCK, 3);
     EXPECT_EQ(g.RESU(3, 4), g.RESU(3, 5));
     // The lateral strain is held at the design strain there.
     EXPECT_EQ(g.EPSRC(3, 4), g.EPSD(4));
@@ -827,7 +827,7 @@ TEST(CalculoConfina, CuantiaVolumetricaPequena)
     General g = ProyectoPorDefecto();
     g.NCP = 1000.0;
     PredeformacionConfina(g);
-    CalculoConfina(g, 1, g.DIAM, g.LADOMENOR, g.FCK, 1);
+    CalculoConfina(g, FormaPilar::Circular, g.DIAM, g.LADOMENOR, g.FCK, 1);
     EXPECT_EQ(A(g.WWD(1, 1), 4), "0.0118");
     EXPECT_LT(g.WWD(1, 1), 0.5);
 }
@@ -835,15 +835,15 @@ TEST(CalculoConfina, CuantiaVolumetricaPequena)
 TEST(CalculoConfina, VolumenDeHormigonYCoeficientesPorForma)
 {
     General g = ProyectoPorDefecto();
-    CalculoConfina(g, 1, 0.5, 0.4, 25.0, 1);
+    CalculoConfina(g, FormaPilar::Circular, 0.5, 0.4, 25.0, 1);
     EXPECT_DOUBLE_EQ(g.WC(1), 0.5 * 0.5 * 3.141592 / 4.0);
     EXPECT_EQ(g.ALFAN, 1.0);
     EXPECT_EQ(g.ALFAS, 1.0);
     EXPECT_DOUBLE_EQ(g.WR(1, 2), 0.5 * 3.141592 * 0.111 * 0.001 * 2.0);
-    CalculoConfina(g, 2, 0.5, 0.4, 25.0, 2);
+    CalculoConfina(g, FormaPilar::Cuadrada, 0.5, 0.4, 25.0, 2);
     EXPECT_DOUBLE_EQ(g.WC(2), 0.25);
     EXPECT_DOUBLE_EQ(g.ALFAN, 1.0 - 2.0 / 3.0);
-    CalculoConfina(g, 3, 0.5, 0.4, 25.0, 3);
+    CalculoConfina(g, FormaPilar::Rectangular, 0.5, 0.4, 25.0, 3);
     EXPECT_DOUBLE_EQ(g.WC(3), 0.2);
     EXPECT_DOUBLE_EQ(g.ALFAN, 1.0 - ((2.0 / 3.0) * 0.5) / 0.4);
 }
@@ -852,7 +852,7 @@ TEST(CalculoConfina, CuantiaTopadaEnUnMedio)
 {
     General g = ProyectoPorDefecto();
     // A thin column of weak concrete: the ratio reaches its cap of 0.5.
-    CalculoConfina(g, 1, 0.05, 0.05, 15.0, 2);
+    CalculoConfina(g, FormaPilar::Circular, 0.05, 0.05, 15.0, 2);
     EXPECT_EQ(g.WWD(2, 5), 0.5);
     EXPECT_EQ(g.TENSCONF(2, 5), 0.25);
     EXPECT_EQ(g.RESU(2, 5), 0.25 * 2.5 + 1.125);

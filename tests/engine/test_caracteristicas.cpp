@@ -32,7 +32,7 @@ General FlexionCalculada(double md = 0.0)
 {
     General g = Proyecto();
     g.MD = md;
-    CalculaFlexion(g, kSeccionRectangular, nullptr);
+    CalculaFlexion(g, SeccionFlexion::Rectangular, nullptr);
     return g;
 }
 
@@ -41,7 +41,7 @@ General ConfinamientoCalculado(double incr = 1.0, double ncp = 0.0)
     General g = Proyecto();
     g.INCR = incr;
     g.NCP = ncp;
-    CalculaConfinamiento(g, g.SECCION, nullptr);
+    CalculaConfinamiento(g, FormaDe(g), nullptr);
     return g;
 }
 
@@ -80,7 +80,7 @@ TEST(CeldaFlexion, MomentoIgualAlAlcanzadoEsAmarilloYElLetreroQuedaOculto)
     const double mu = FlexionCalculada().MU(1, 1);
     General g = Proyecto();
     g.MD = mu;
-    const ResultadoCalculo r = CalculaFlexion(g, kSeccionRectangular, nullptr);
+    const ResultadoCalculo r = CalculaFlexion(g, SeccionFlexion::Rectangular, nullptr);
     ASSERT_EQ(g.MU(1, 1), g.MD);
     EXPECT_TRUE(CeldaFlexion(g, 1, 1, ',').cumple);
     // Type X with one layer carries a little less (237.72 against 238.47): white.
@@ -93,7 +93,7 @@ TEST(CeldaFlexion, MomentoIgualAlAlcanzadoEsAmarilloYElLetreroQuedaOculto)
     // At the largest moment, reached by type H with five layers, only that cell is yellow, and
     // the section can still be strengthened.
     g.MD = g.MUMAX;
-    const ResultadoCalculo r2 = CalculaFlexion(g, kSeccionRectangular, nullptr);
+    const ResultadoCalculo r2 = CalculaFlexion(g, SeccionFlexion::Rectangular, nullptr);
     ASSERT_EQ(g.MU(2, 5), g.MD);
     EXPECT_EQ(r2.veredicto, Veredicto::Oculto);
     for (int t = 1; t <= 3; ++t)

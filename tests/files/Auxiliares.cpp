@@ -98,7 +98,10 @@ Lectura LeeFicheroFlexion(const std::string& fichero, General inicial)
     Lectura lectura;
     lectura.g = std::move(inicial);
     Avisos avisos;
-    LeeFlexion(lectura.g, fichero, lectura.tipo, avisos.Funcion());
+    // The number of line 1 as it was read, a section kind or not.
+    auto seccion = static_cast<SeccionFlexion>(lectura.tipo);
+    LeeFlexion(lectura.g, fichero, seccion, avisos.Funcion());
+    lectura.tipo = static_cast<Entero>(seccion);
     lectura.avisos = avisos.Textos();
     return lectura;
 }

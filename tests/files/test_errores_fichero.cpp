@@ -157,7 +157,7 @@ TEST(LeeFlexion, SinFuncionDeAvisoNoFalla)
 {
     DirectorioTemporal dir;
     General g = prueba::EstadoAjeno();
-    Entero tipo = 0;
+    SeccionFlexion tipo{};
     LeeFlexion(g, dir.Fichero("no_existe.vmf"), tipo, Aviso());
     EXPECT_TRUE(g.F_ERROR);
     prueba::EsperaValoresFlexion(g);
@@ -207,7 +207,7 @@ TEST(LeeFlexion, CincuentaLecturasDeUnFicheroCortoNoDejanFicherosAbiertos)
     auto lineas = prueba::LineasFlexionT();
     lineas.resize(15);  // the file ends before MD
     CincuentaLecturasFallidas(lineas, "corto.vmf", [](const std::string& fichero, General& g, Avisos& avisos) {
-        Entero tipo = 0;
+        SeccionFlexion tipo{};
         LeeFlexion(g, fichero, tipo, avisos.Funcion());
     });
 }
@@ -224,7 +224,7 @@ TEST(LeeConfina, CincuentaLecturasDeUnFicheroCortoNoDejanFicherosAbiertos)
 // --- Writers ---------------------------------------------------------------------------------------
 
 // Writes g as a flexure file of that kind, or as a confinement file, and gives the messages.
-std::vector<std::string> AvisosDeGrabaFlexion(General& g, const std::string& fichero, Entero tipo)
+std::vector<std::string> AvisosDeGrabaFlexion(General& g, const std::string& fichero, SeccionFlexion tipo)
 {
     Avisos avisos;
     GrabaFlexion(g, fichero, tipo, avisos.Funcion());
@@ -243,7 +243,7 @@ TEST(GrabaFlexion, DirectorioQueNoExisteDaError76YNoTocaElEstado)
     DirectorioTemporal dir;
     General g = prueba::EstadoAjeno();
     const General antes = g;
-    EsperaFallo(g, AvisosDeGrabaFlexion(g, dir.Fichero("falta/flexion.vmf"), 1), kRutaNoEncontrada);
+    EsperaFallo(g, AvisosDeGrabaFlexion(g, dir.Fichero("falta/flexion.vmf"), SeccionFlexion::Rectangular), kRutaNoEncontrada);
     prueba::EsperaMismosValoresFlexion(antes, g);
     EXPECT_FALSE(std::filesystem::exists(dir.Ruta() / "falta"));
 }
@@ -261,7 +261,7 @@ TEST(GrabaFlexion, DirectorioComoFicheroDaError75)
 {
     DirectorioTemporal dir;
     General g = prueba::EstadoAjeno();
-    EsperaFallo(g, AvisosDeGrabaFlexion(g, dir.Ruta().string(), 2), kErrorDeAccesoRuta);
+    EsperaFallo(g, AvisosDeGrabaFlexion(g, dir.Ruta().string(), SeccionFlexion::T), kErrorDeAccesoRuta);
     EXPECT_TRUE(std::filesystem::is_directory(dir.Ruta()));
 }
 
@@ -274,7 +274,7 @@ TEST(GrabaConfina, NombreVacioDaError52)
 TEST(GrabaFlexion, NombreVacioDaError52)
 {
     General g = prueba::EstadoAjeno();
-    EsperaFallo(g, AvisosDeGrabaFlexion(g, "", 1), kNombreIncorrecto);
+    EsperaFallo(g, AvisosDeGrabaFlexion(g, "", SeccionFlexion::Rectangular), kNombreIncorrecto);
 }
 
 TEST(GrabaFlexion, DiscoLlenoDaEspacioInsuficiente)
@@ -282,7 +282,7 @@ TEST(GrabaFlexion, DiscoLlenoDaEspacioInsuficiente)
     if (!std::filesystem::exists("/dev/full")) GTEST_SKIP() << "no hay /dev/full";
     General g = prueba::EstadoAjeno();
     const General antes = g;
-    EsperaFallo(g, AvisosDeGrabaFlexion(g, "/dev/full", 2), "Espacio en disco insuficiente.");
+    EsperaFallo(g, AvisosDeGrabaFlexion(g, "/dev/full", SeccionFlexion::T), "Espacio en disco insuficiente.");
     prueba::EsperaMismosValoresFlexion(antes, g);
 }
 
@@ -300,7 +300,7 @@ TEST(GrabaFlexion, FicheroDeSoloLecturaDaError70)
     std::filesystem::permissions(dir.Fichero("f.vmf"), std::filesystem::perms::owner_read);
     if (SeAbreAunAsi(dir.Fichero("f.vmf"), "ab")) GTEST_SKIP() << "el administrador escribe en cualquier fichero";
     General g = prueba::EstadoAjeno();
-    EsperaFallo(g, AvisosDeGrabaFlexion(g, dir.Fichero("f.vmf"), 1), kPermisoDenegado);
+    EsperaFallo(g, AvisosDeGrabaFlexion(g, dir.Fichero("f.vmf"), SeccionFlexion::Rectangular), kPermisoDenegado);
     EXPECT_EQ(prueba::LeeBytes(dir.Fichero("f.vmf")), "viejo");
 }
 
@@ -310,7 +310,7 @@ TEST(GrabaFlexion, BuenaEscrituraNoBorraLaBanderaDeError)
     General g = prueba::EstadoAjeno();
     g.F_ERROR = true;
     Avisos avisos;
-    GrabaFlexion(g, dir.Fichero("f.vmf"), 1, avisos.Funcion());
+    GrabaFlexion(g, dir.Fichero("f.vmf"), SeccionFlexion::Rectangular, avisos.Funcion());
     GrabaConfina(g, dir.Fichero("c.vmc"), avisos.Funcion());
     EXPECT_TRUE(g.F_ERROR);
     EXPECT_TRUE(avisos.Textos().empty());

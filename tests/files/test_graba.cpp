@@ -29,7 +29,7 @@ General EstadoDeArranque()
 }
 
 // The start values written as each kind of flexure file, byte by byte: one row a case.
-struct FlexionDeArranque { const char* nombre; Entero tipo; const char* bytes; };
+struct FlexionDeArranque { const char* nombre; SeccionFlexion tipo; const char* bytes; };
 
 class GrabaFlexionDeArranque : public ::testing::TestWithParam<FlexionDeArranque> {};
 
@@ -46,10 +46,10 @@ TEST_P(GrabaFlexionDeArranque, SaleByteAByte)
 
 // clang-format off
 const FlexionDeArranque kFlexionesDeArranque[] = {
-    {"Rectangular", 1, "1\r\n0.4\r\n0.6\r\n0.05\r\n10\r\n0\r\n25\r\n500\r\n1.5\r\n1.15\r\n1.4\r\n0.125\r\n0\r\n0\r\n"},
-    {"SeccionT",    2, "2\r\n0.4\r\n0.6\r\n0.2\r\n0.2\r\n0.05\r\n10\r\n0\r\n25\r\n500\r\n1.5\r\n1.15\r\n1.4\r\n0.125\r\n0\r\n0\r\n"},
+    {"Rectangular", SeccionFlexion::Rectangular, "1\r\n0.4\r\n0.6\r\n0.05\r\n10\r\n0\r\n25\r\n500\r\n1.5\r\n1.15\r\n1.4\r\n0.125\r\n0\r\n0\r\n"},
+    {"SeccionT",    SeccionFlexion::T, "2\r\n0.4\r\n0.6\r\n0.2\r\n0.2\r\n0.05\r\n10\r\n0\r\n25\r\n500\r\n1.5\r\n1.15\r\n1.4\r\n0.125\r\n0\r\n0\r\n"},
     // A type other than 2 does not write the lines of the T.
-    {"TipoDistintoDeDosSinLasLineasDeT", 3,
+    {"TipoDistintoDeDosSinLasLineasDeT", static_cast<SeccionFlexion>(3),
      "3\r\n0.4\r\n0.6\r\n0.05\r\n10\r\n0\r\n25\r\n500\r\n1.5\r\n1.15\r\n1.4\r\n0.125\r\n0\r\n0\r\n"},
 };
 // clang-format on
@@ -82,10 +82,10 @@ TEST(GrabaFlexion, OrdenDeLineasDistintoDelDePantalla)
     g.FCK = 8;     g.FYK = 9;     g.GC = 10;         g.GS = 11;        g.GR = 12;
     g.ANCHOR = 13; g.MCP = 14;    g.MD = 15;         g.EPS0 = 16;
     // clang-format on
-    GrabaFlexion(g, dir.Fichero("t.vmf"), 2, Aviso());
+    GrabaFlexion(g, dir.Fichero("t.vmf"), SeccionFlexion::T, Aviso());
     EXPECT_EQ(LeeBytes(dir.Fichero("t.vmf")),
               ConFinDeLinea({"2", "1", "2", "3", "4", "5", "6", "7", "8", "9", "10", "11", "12", "13", "14", "15"}));
-    GrabaFlexion(g, dir.Fichero("r.vmf"), 1, Aviso());
+    GrabaFlexion(g, dir.Fichero("r.vmf"), SeccionFlexion::Rectangular, Aviso());
     EXPECT_EQ(LeeBytes(dir.Fichero("r.vmf")),
               ConFinDeLinea({"1", "1", "2", "5", "6", "7", "8", "9", "10", "11", "12", "13", "14", "15"}));
 }
@@ -113,7 +113,7 @@ TEST_P(GrabaFlexionCambiada, SaleByteAByte)
     DirectorioTemporal dir;
     General g = EstadoDeArranque();
     GetParam().cambia(g);
-    GrabaFlexion(g, dir.Fichero("f.vmf"), 1, Aviso());
+    GrabaFlexion(g, dir.Fichero("f.vmf"), SeccionFlexion::Rectangular, Aviso());
     EXPECT_FALSE(g.F_ERROR);
     EXPECT_EQ(LeeBytes(dir.Fichero("f.vmf")), GetParam().bytes);
 }
@@ -148,9 +148,9 @@ TEST(GrabaFlexion, ConfiguracionRegionalEspanolaSigueEscribiendoPuntos)
     ASSERT_EQ(std::localeconv()->decimal_point, std::string(","));
     DirectorioTemporal dir;
     General g = EstadoDeArranque();
-    GrabaFlexion(g, dir.Fichero("f.vmf"), 1, Aviso());
+    GrabaFlexion(g, dir.Fichero("f.vmf"), SeccionFlexion::Rectangular, Aviso());
     const std::string escrito = LeeBytes(dir.Fichero("f.vmf"));
-    Entero tipo = 0;
+    SeccionFlexion tipo{};
     g.ANCHO = 7.0;
     LeeFlexion(g, dir.Fichero("f.vmf"), tipo, Aviso());
     std::setlocale(LC_ALL, guardada.c_str());
@@ -190,17 +190,17 @@ TEST(GrabaFlexion, IdaYVueltaDevuelveCadaValorExactoEnSeccionT)
     escrito.ANCHOR = 0.30000000000000004 / 3.0;
     escrito.MCP = 9007199254740993.0;
     escrito.MD = 1e-7;
-    GrabaFlexion(escrito, dir.Fichero("f.vmf"), 2, Aviso());
+    GrabaFlexion(escrito, dir.Fichero("f.vmf"), SeccionFlexion::T, Aviso());
     ASSERT_FALSE(escrito.F_ERROR);
 
     General leido = prueba::EstadoAjeno();
     leido.EPS0 = escrito.EPS0;
-    Entero tipo = 0;
+    SeccionFlexion tipo{};
     Avisos avisos;
     LeeFlexion(leido, dir.Fichero("f.vmf"), tipo, avisos.Funcion());
     EXPECT_FALSE(leido.F_ERROR);
     EXPECT_TRUE(avisos.Textos().empty());
-    EXPECT_EQ(tipo, 2);
+    EXPECT_EQ(tipo, SeccionFlexion::T);
     prueba::EsperaMismosValoresFlexion(escrito, leido);
 }
 
@@ -222,14 +222,14 @@ TEST(GrabaFlexion, IdaYVueltaDevuelveCadaValorExactoEnRectangular)
     escrito.ANCHOR = 0.1 + 0.2;
     escrito.MCP = std::numeric_limits<double>::min();
     escrito.MD = 9007199254740993.0;
-    GrabaFlexion(escrito, dir.Fichero("f.vmf"), 1, Aviso());
+    GrabaFlexion(escrito, dir.Fichero("f.vmf"), SeccionFlexion::Rectangular, Aviso());
 
     General leido = prueba::EstadoAjeno();
     const General antes = leido;
-    Entero tipo = 0;
+    SeccionFlexion tipo{};
     LeeFlexion(leido, dir.Fichero("f.vmf"), tipo, Aviso());
     EXPECT_FALSE(leido.F_ERROR);
-    EXPECT_EQ(tipo, 1);
+    EXPECT_EQ(tipo, SeccionFlexion::Rectangular);
     escrito.ANCHOALMA = antes.ANCHOALMA;
     escrito.CANTOALA = antes.CANTOALA;
     escrito.EPS0 = antes.EPS0;
@@ -268,14 +268,14 @@ TEST(GrabaConfina, IdaYVueltaDevuelveCadaValorExacto)
 TEST(GrabaFlexion, EstadoDeArranqueVuelveIgualPorAmbosTipos)
 {
     DirectorioTemporal dir;
-    for (Entero tipo : {Entero{1}, Entero{2}}) {
+    for (SeccionFlexion tipo : {SeccionFlexion::Rectangular, SeccionFlexion::T}) {
         General escrito = EstadoDeArranque();
         GrabaFlexion(escrito, dir.Fichero("f.vmf"), tipo, Aviso());
         General leido = prueba::EstadoAjeno();
         leido.ANCHOALMA = 0.2;
         leido.CANTOALA = 0.2;
         leido.EPS0 = 0.0;
-        Entero leido_tipo = 0;
+        SeccionFlexion leido_tipo{};
         LeeFlexion(leido, dir.Fichero("f.vmf"), leido_tipo, Aviso());
         EXPECT_FALSE(leido.F_ERROR);
         EXPECT_EQ(leido_tipo, tipo);

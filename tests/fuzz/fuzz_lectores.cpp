@@ -38,10 +38,6 @@ namespace texalon {
 
 namespace {
 
-// Section kinds of a flexure file.
-constexpr Entero kRectangular = 1;
-constexpr Entero kSeccionTe = 2;
-
 // The one file of this process, written anew for every input and removed when it ends.
 class FicheroDelProceso {
 public:
@@ -134,7 +130,7 @@ void ExigeFinitos(const General& g, const Arreglo<double>& valores)
 }
 
 // The state written to the file and read back in a fresh state, which must come out the same.
-void ExigeIdaYVueltaFlexion(General& g, Entero tipo)
+void ExigeIdaYVueltaFlexion(General& g, SeccionFlexion tipo)
 {
     Avisos avisos;
     GrabaFlexion(g, Fichero(true).Ruta(), tipo, avisos.Funcion());
@@ -142,7 +138,7 @@ void ExigeIdaYVueltaFlexion(General& g, Entero tipo)
 
     General leido;
     ValoresIniciales(leido);
-    Entero tipo_leido = 0;
+    SeccionFlexion tipo_leido{};
     LeeFlexion(leido, Fichero(true).Ruta(), tipo_leido, avisos.Funcion());
     Exige(!leido.F_ERROR && avisos.cuantos == 0 && tipo_leido == tipo);
     Exige(leido.ANCHO == g.ANCHO && leido.CANTO == g.CANTO && leido.RECUB == g.RECUB);
@@ -205,27 +201,26 @@ void ExigeCalculoCorrecto(const calculo::CalculoFichero& calculo)
 // Whether Save would write the state: the screen's copy tests the values as the reader does,
 // so that what is written reads back. The reader tests them before it drops their signs, so a
 // state read from a file may fail them (a sheet of -4 m beside a web of 0.3 m).
-bool SeGrabariaFlexion(const General& g, Entero tipo)
+bool SeGrabariaFlexion(const General& g, SeccionFlexion tipo)
 {
     const DatosFlexion d{g.ANCHO, g.CANTO, g.ANCHOALMA, g.CANTOALA, g.RECUB, g.ASI, g.ASS, g.FCK,
                          g.FYK,   g.GC,    g.GS,        g.GR,       g.ANCHOR, g.MCP, g.MD};
-    return FlexionValida(d, tipo == kSeccionTe);
+    return FlexionValida(d, tipo);
 }
 
 bool SeGrabariaConfina(const General& g)
 {
     const DatosConfina d{g.SECCION, g.DIAM, g.LADOMENOR, g.FCK, g.GC, g.GS, g.GR, g.NCP, g.INCR};
-    return ConfinaValida(d, g.SECCION == kFilaRectangular + 1);
+    return ConfinaValida(d, FormaDe(g));
 }
 
 // The file through the batch command's path. What the reader took, the command takes too; a
-// value that a field refuses stops it with that field's message, and the rest is calculated.
-void CalculaComoElProgramaDeCalculo(const std::string& ruta, const General& leido, Entero tipo)
+// value that a field refuses (`rechazo`, as the reader's state shows it) stops it with that
+// field's message, and the rest is calculated.
+void CalculaComoElProgramaDeCalculo(const std::string& ruta, const std::optional<CampoRechazado>& rechazo)
 {
     const calculo::CalculoFichero calculo = calculo::CalculaFichero(ruta);
     Exige(calculo.leido);
-    const std::optional<CampoRechazado> rechazo =
-        calculo.clase == ClaseFichero::Flexion ? CampoQueRechazaLaFlexion(leido, tipo) : CampoQueRechazaElConfinamiento(leido);
     if (rechazo) {
         Exige(calculo.errores == std::vector<std::string>{rechazo->control + ": " + rechazo->mensaje});
         return;
@@ -239,7 +234,7 @@ void PruebaFlexion()
     General g;
     ValoresIniciales(g);
     Avisos avisos;
-    Entero tipo = 0;
+    SeccionFlexion tipo{};
     LeeFlexion(g, ruta, tipo, avisos.Funcion());
     // Only a fault of the file is told, and it always refuses the file.
     Exige(!avisos.vacio && (avisos.cuantos == 0 || g.F_ERROR));
@@ -247,8 +242,8 @@ void PruebaFlexion()
         ExigeValoresPorDefecto(g);
         return;
     }
-    Exige(tipo == kRectangular || tipo == kSeccionTe);
-    CalculaComoElProgramaDeCalculo(ruta, g, tipo);
+    Exige(tipo == SeccionFlexion::Rectangular || tipo == SeccionFlexion::T);
+    CalculaComoElProgramaDeCalculo(ruta, CampoQueRechazaLaFlexion(g, tipo));
     if (SeGrabariaFlexion(g, tipo)) ExigeIdaYVueltaFlexion(g, tipo);
 }
 
@@ -264,7 +259,7 @@ void PruebaConfina()
         ExigeValoresPorDefecto(g);
         return;
     }
-    CalculaComoElProgramaDeCalculo(ruta, g, g.SECCION);
+    CalculaComoElProgramaDeCalculo(ruta, CampoQueRechazaElConfinamiento(g));
     if (SeGrabariaConfina(g)) ExigeIdaYVueltaConfina(g);
 }
 

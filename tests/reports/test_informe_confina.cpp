@@ -113,7 +113,7 @@ General Calculada(Entero seccion)
     General g;
     ValoresIniciales(g);
     g.SECCION = seccion;
-    CalculaConfinamiento(g, seccion, [](General&) {});
+    CalculaConfinamiento(g, FormaDe(g), [](General&) {});
     return g;
 }
 
@@ -124,7 +124,7 @@ struct Informe {
 
 void Imprime(Informe& informe, General& g, int fila, char sep)
 {
-    InformeConfina(informe.impresora, g, informe.d, ResultadosConfina(g, 1, 1, sep), fila, sep);
+    InformeConfina(informe.impresora, g, informe.d, ResultadosConfina(g, 1, 1, sep), FormaDeFila(fila), sep);
 }
 
 // ---- The page, row by row, for each shape.
@@ -265,7 +265,7 @@ TEST(InformeConfina, LosTextosDeLosCamposSeLeenYSeFormateanDeNuevo)
                                            .TENSCONF = Con("0.0065", sep),
                                            .RESU = Con("1.025", sep)};
         Informe informe;
-        InformeConfina(informe.impresora, g, informe.d, celda, kCircular, sep);
+        InformeConfina(informe.impresora, g, informe.d, celda, FormaDeFila(kCircular), sep);
         // Rounded half away from zero in decimal; the initial strain without a blank.
         const Cifras cifras{"1.000", {"0.196350", "0.000175", "0.013069", "1.00", "1.07", "245.3", "0.007", "1.03"}};
         EsperaTextos(TextosAntesDeLosDiagramas(informe.impresora.operaciones),
@@ -279,7 +279,7 @@ TEST(InformeConfina, UnCampoSinNumeroDetieneElInformeEnSuFila)
     ResultadosCeldaConfina celda = ResultadosConfina(g, 1, 1, '.');
     celda.SIGMAR = "---";
     Informe informe;
-    EsperaDetenidoEnLaFila([&] { InformeConfina(informe.impresora, g, informe.d, celda, kCircular, '.'); },
+    EsperaDetenidoEnLaFila([&] { InformeConfina(informe.impresora, g, informe.d, celda, FormaDeFila(kCircular), '.'); },
                            informe.impresora, "Def. refuerzo:", "Tensión en refuerzo:");
 }
 

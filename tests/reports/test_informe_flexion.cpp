@@ -124,7 +124,7 @@ struct Proyecto {
 };
 
 // The default project of a section kind, with MD and the flange depth set, calculated.
-Proyecto Calculado(Entero seccion, double md, double cantoAla = defecto::CANTOALA)
+Proyecto Calculado(SeccionFlexion seccion, double md, double cantoAla = defecto::CANTOALA)
 {
     Proyecto p;
     ValoresIniciales(p.g);
@@ -196,7 +196,7 @@ void EsperaCuatroDiagramas(const std::vector<Operacion>& ops, const General& cop
 
 TEST(InformeFlexion, RectangularConMd250ImprimeCadaFilaEnSuSitio)
 {
-    Proyecto p = Calculado(1, 250.0);
+    Proyecto p = Calculado(SeccionFlexion::Rectangular, 250.0);
     ASSERT_EQ(p.veredicto, Veredicto::Oculto);
     Informe informe;
     Imprime(informe, p, false, '.');
@@ -207,7 +207,7 @@ TEST(InformeFlexion, RectangularConMd250ImprimeCadaFilaEnSuSitio)
 
 TEST(InformeFlexion, RectangularConComaDecimal)
 {
-    Proyecto p = Calculado(1, 250.0);
+    Proyecto p = Calculado(SeccionFlexion::Rectangular, 250.0);
     Informe informe;
     Imprime(informe, p, false, ',');
     EsperaTextos(TextosAntesDeLosDiagramas(informe.impresora.operaciones),
@@ -218,7 +218,7 @@ TEST(InformeFlexionT, PorDefectoConMd250ImprimeCadaFilaEnSuSitio)
 {
     for (char sep : {'.', ','}) {
         SCOPED_TRACE(std::string("separador ") + sep);
-        Proyecto p = Calculado(2, 250.0);
+        Proyecto p = Calculado(SeccionFlexion::T, 250.0);
         ASSERT_EQ(p.veredicto, Veredicto::Oculto);
         Informe informe;
         Imprime(informe, p, true, sep);
@@ -230,7 +230,7 @@ TEST(InformeFlexionT, PorDefectoConMd250ImprimeCadaFilaEnSuSitio)
 
 TEST(InformeFlexion, LosDosPuntosDeLosMomentosVanTrasElAnchoDeMRB)
 {
-    Proyecto p = Calculado(1, 250.0);
+    Proyecto p = Calculado(SeccionFlexion::Rectangular, 250.0);
     Informe informe;
     Imprime(informe, p, false, '.');
     const auto textos = TextosAntesDeLosDiagramas(informe.impresora.operaciones);
@@ -250,7 +250,7 @@ TEST(InformeFlexion, LosTextosDeLosCamposSeLeenYSeFormateanDeNuevo)
 {
     for (char sep : {'.', ','}) {
         SCOPED_TRACE(std::string("separador ") + sep);
-        Proyecto p = Calculado(1, 250.0);
+        Proyecto p = Calculado(SeccionFlexion::Rectangular, 250.0);
         const ResultadosCeldaFlexion celda{.tipo = std::string(kCelda) + "   ",
                                            .MUSR = Con("222.449", sep),
                                            .EPS0 = Con("0.5", sep),
@@ -277,7 +277,7 @@ TEST(InformeFlexion, LosTextosDeLosCamposSeLeenYSeFormateanDeNuevo)
 
 TEST(InformeFlexion, ImprimirPreparaEnmarcaEscribeYDibujaEnDosPaginas)
 {
-    Proyecto p = Calculado(1, 250.0);
+    Proyecto p = Calculado(SeccionFlexion::Rectangular, 250.0);
     Informe informe;
     Imprime(informe, p, false, '.');
     const auto& ops = informe.impresora.operaciones;
@@ -317,7 +317,7 @@ TEST(InformeFlexion, CadaDiagramaQuedaEnElAreaDeSusMargenes)
 {
     for (char sep : {'.', ','}) {
         SCOPED_TRACE(std::string("separador ") + sep);
-        Proyecto p = Calculado(1, 250.0);
+        Proyecto p = Calculado(SeccionFlexion::Rectangular, 250.0);
         const General copia = p.g;
         const ResultadosCeldaFlexion celda = ResultadosFlexion(p.g, 1, 1, sep);
         Informe informe;
@@ -332,7 +332,7 @@ TEST(InformeFlexion, CadaDiagramaQuedaEnElAreaDeSusMargenes)
 
 TEST(InformeFlexionT, CadaDiagramaQuedaEnElAreaDeSusMargenes)
 {
-    Proyecto p = Calculado(2, 250.0);
+    Proyecto p = Calculado(SeccionFlexion::T, 250.0);
     const General copia = p.g;
     const ResultadosCeldaFlexion celda = ResultadosFlexion(p.g, 1, 1, '.');
     Informe informe;
@@ -349,8 +349,8 @@ TEST(InformeFlexionT, CadaDiagramaQuedaEnElAreaDeSusMargenes)
 
 TEST(InformeFlexionT, LasDosFilasDeMasSoloBajanElBloqueIzquierdo)
 {
-    Proyecto rectangular = Calculado(1, 250.0);
-    Proyecto t = Calculado(2, 250.0);
+    Proyecto rectangular = Calculado(SeccionFlexion::Rectangular, 250.0);
+    Proyecto t = Calculado(SeccionFlexion::T, 250.0);
     Informe deRectangular;
     Informe deT;
     Imprime(deRectangular, rectangular, false, '.');
@@ -395,7 +395,7 @@ TEST(InformeFlexionT, LasDosFilasDeMasSoloBajanElBloqueIzquierdo)
 
 TEST(InformeFlexionT, CantoDelAlaIgualAlCantoImprimeComoOtra)
 {
-    Proyecto p = Calculado(2, 250.0, defecto::CANTO);
+    Proyecto p = Calculado(SeccionFlexion::T, 250.0, defecto::CANTO);
     ASSERT_EQ(p.veredicto, Veredicto::Oculto);
     const General copia = p.g;
     const ResultadosCeldaFlexion celda = ResultadosFlexion(p.g, 1, 1, '.');
@@ -413,7 +413,7 @@ TEST(InformeFlexion, ArmaduraSuperiorCeroSeImprimeConSuUnidad)
     for (char sep : {'.', ','}) {
         for (double md : {250.0, 0.0}) {
             SCOPED_TRACE(std::string("separador ") + sep + " MD " + std::to_string(md));
-            Proyecto p = Calculado(1, md);
+            Proyecto p = Calculado(SeccionFlexion::Rectangular, md);
             ASSERT_EQ(p.g.ASS, 0.0);
             Informe informe;
             Imprime(informe, p, false, sep);
@@ -437,7 +437,7 @@ TEST(InformeFlexion, ArmaduraSuperiorCeroSeImprimeConSuUnidad)
 void EsperaSinResultados(double md, bool enT, char sep, const std::string& veredicto, double xVeredicto,
                          double yVeredicto)
 {
-    Proyecto p = Calculado(enT ? 2 : 1, md);
+    Proyecto p = Calculado(enT ? SeccionFlexion::T : SeccionFlexion::Rectangular, md);
     ASSERT_NE(p.veredicto, Veredicto::Oculto);
     Informe informe;
     NuevaLista(informe.d);
@@ -491,7 +491,7 @@ TEST(InformeFlexion, CeldaConGuionesNoLlegaALaImpresora)
     for (bool enT : {false, true}) {
         for (double md : {250.0, 0.0}) {
             SCOPED_TRACE(std::string(enT ? "T" : "rectangular") + " MD " + std::to_string(md));
-            Proyecto p = Calculado(enT ? 2 : 1, md);
+            Proyecto p = Calculado(enT ? SeccionFlexion::T : SeccionFlexion::Rectangular, md);
             // TEXALON X gains nothing from 3 layers on.
             const ResultadosCeldaFlexion celda = ResultadosFlexion(p.g, 3, 5, '.');
             ASSERT_EQ(celda.MU, "---");
@@ -512,7 +512,7 @@ TEST(InformeFlexion, SoloElMomentoConGuionesRechazaLaCelda)
 {
     // Another field without a number passes the guard, and stops the report at its row with
     // the run-time type error: the rows before it are printed, the document never ends.
-    Proyecto p = Calculado(1, 250.0);
+    Proyecto p = Calculado(SeccionFlexion::Rectangular, 250.0);
     ResultadosCeldaFlexion celda = ResultadosFlexion(p.g, 1, 1, '.');
     celda.EPSC = "---";
     Informe informe;
@@ -529,7 +529,7 @@ TEST(InformeFlexion, SoloElMomentoConGuionesRechazaLaCelda)
 
 TEST(InformeFlexion, UnSegundoInformeEmpiezaDeNuevoEnLaPaginaUno)
 {
-    Proyecto p = Calculado(1, 250.0);
+    Proyecto p = Calculado(SeccionFlexion::Rectangular, 250.0);
     Informe informe;
     Imprime(informe, p, false, '.');
     const std::size_t primero = informe.impresora.operaciones.size();

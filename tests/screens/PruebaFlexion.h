@@ -48,7 +48,7 @@ class PruebaFlexion : public prueba::PruebaDePantalla {
         ValoresIniciales(Estado());
         prepara(Estado());
         NuevosDobles(separador);
-        pantalla_ = new FmFlexion(seccionT);
+        pantalla_ = new FmFlexion(seccionT ? SeccionFlexion::T : SeccionFlexion::Rectangular);
         return *pantalla_;
     }
 

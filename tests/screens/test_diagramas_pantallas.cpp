@@ -131,7 +131,7 @@ private slots:
     void calcularFlexionDejaElDiagramaDeMomentosPorCapas()
     {
         QFETCH(bool, seccionT);
-        Abre<FmFlexion>(seccionT);
+        Abre<FmFlexion>(seccionT ? SeccionFlexion::T : SeccionFlexion::Rectangular);
         QCOMPARE(EstadoDibujo().NLINEA, Entero{0});
         prueba::Pulsa(C("CM_CALCULAR"));
         const GeneralDibujo& d = EstadoDibujo();
@@ -150,7 +150,7 @@ private slots:
 
     void losBotonesDeFlexionDibujanSuDiagrama()
     {
-        Abre<FmFlexion>(false);
+        Abre<FmFlexion>(SeccionFlexion::Rectangular);
         prueba::Pulsa(C("CM_CALCULAR"));
         prueba::Pulsa(C("CM_ARMADURA"));
         QVERIFY(EstadoDibujo().F_MOMENTOS && !EstadoDibujo().F_CAPAS);
@@ -167,7 +167,7 @@ private slots:
 
     void laSeccionSeDibujaSinCalcular()
     {
-        Abre<FmFlexion>(true);
+        Abre<FmFlexion>(SeccionFlexion::T);
         prueba::Pulsa(C("CM_SECCION"));
         QVERIFY(EstadoDibujo().F_SECCION);
         // The T drawing has eight outline lines and the texts of its two extra dimensions.
@@ -181,7 +181,7 @@ private slots:
     {
         QFETCH(char, separador);
         separador_ = separador;
-        Abre<FmFlexion>(false);
+        Abre<FmFlexion>(SeccionFlexion::Rectangular);
         prueba::Pulsa(C("CM_CALCULAR"));
         prueba::Pulsa(C("CM_DEFORMACIONES"));
         // The strain of the top fibre of cell (1, 1), read from its result field.
@@ -198,7 +198,7 @@ private slots:
 
     void unaCeldaSinResultadoDejaElDiagramaYApagaElBoton()
     {
-        Abre<FmFlexion>(false);
+        Abre<FmFlexion>(SeccionFlexion::Rectangular);
         prueba::Pulsa(C("CM_CALCULAR"));
         prueba::Pulsa(C("CM_DEFORMACIONES"));
         const QStringList antes = Textos("PIC_FLEXION");
@@ -212,7 +212,7 @@ private slots:
 
     void conLaSeccionALaVistaLaRejillaSoloCambiaElBoton()
     {
-        Abre<FmFlexion>(false);
+        Abre<FmFlexion>(SeccionFlexion::Rectangular);
         prueba::Pulsa(C("CM_CALCULAR"));
         prueba::Pulsa(C("CM_SECCION"));
         const QStringList seccion = Textos("PIC_FLEXION");
@@ -250,8 +250,8 @@ private slots:
         QFETCH(QString, boton);
         QFETCH(int, isotropico);
         const texalon::Dibujo* dibujo = &kPicFlexion;
-        if (pantalla == QLatin1String("FM_FLEXION")) Abre<FmFlexion>(false);
-        if (pantalla == QLatin1String("FM_FLEXIONT")) Abre<FmFlexion>(true);
+        if (pantalla == QLatin1String("FM_FLEXION")) Abre<FmFlexion>(SeccionFlexion::Rectangular);
+        if (pantalla == QLatin1String("FM_FLEXIONT")) Abre<FmFlexion>(SeccionFlexion::T);
         if (pantalla == QLatin1String("FM_CONFINA")) {
             Abre<FmConfina>();
             dibujo = &kPicConfina;
@@ -349,7 +349,7 @@ private slots:
 
     void laBandaEmpezadaSobreviveAUnDiagramaNuevo()
     {
-        Abre<FmFlexion>(false);
+        Abre<FmFlexion>(SeccionFlexion::Rectangular);
         prueba::Pulsa(C("CM_CALCULAR"));
         Lienzo* dibujo = Dibujo("PIC_FLEXION");
         QTest::mouseClick(dibujo->viewport(), Qt::LeftButton, {}, QPoint(40, 20));
@@ -372,7 +372,7 @@ private slots:
 
     void losDiagramasPintadosMuestranLosColoresDelCatalogo()
     {
-        Abre<FmFlexion>(false);
+        Abre<FmFlexion>(SeccionFlexion::Rectangular);
         prueba::Pulsa(C("CM_CALCULAR"));
         CurvasEnSusColores("PIC_FLEXION");
         prueba::Pulsa(C("CM_ARMADURA"));
@@ -478,7 +478,7 @@ private slots:
 
     void alCerrarLosContadoresVuelvenACero()
     {
-        Abre<FmFlexion>(false);
+        Abre<FmFlexion>(SeccionFlexion::Rectangular);
         prueba::Pulsa(C("CM_CALCULAR"));
         QVERIFY(EstadoDibujo().NLINEA > 0);
         CierraPantalla();

@@ -132,7 +132,7 @@ std::string Veredicto(const calculo::CalculoFichero& calculo)
 std::string EjemploFlexion(const calculo::CalculoFichero& calculo)
 {
     const General& g = calculo.g;
-    const bool enT = calculo.seccion == kSeccionT;
+    const bool enT = calculo.seccion == SeccionFlexion::T;
     const auto celda = [&g](int t, int n) { return CeldaFlexion(g, t, n, kComa); };
     const auto [tipo, capas] = CeldaElegida(g, celda);
     const ResultadosCeldaFlexion r = ResultadosFlexion(g, tipo, capas, kComa);
@@ -174,7 +174,7 @@ std::string EjemploConfinamiento(const calculo::CalculoFichero& calculo)
 std::string TituloEjemplo(const calculo::CalculoFichero& calculo)
 {
     if (calculo.clase == ClaseFichero::Flexion)
-        return calculo.seccion == kSeccionT ? "Flexión de una sección en T" : "Flexión de una viga rectangular";
+        return calculo.seccion == SeccionFlexion::T ? "Flexión de una sección en T" : "Flexión de una viga rectangular";
     return "Confinamiento de un pilar";
 }
 

@@ -29,7 +29,7 @@ Proyecto Calculado(char separador)
     Proyecto p;
     ValoresIniciales(p.g);
     p.g.MD = 250.0;
-    p.veredicto = CalculaFlexion(p.g, 1, [](General&) {}).veredicto;
+    p.veredicto = CalculaFlexion(p.g, SeccionFlexion::Rectangular, [](General&) {}).veredicto;
     p.celda = ResultadosFlexion(p.g, 1, 1, separador);
     return p;
 }

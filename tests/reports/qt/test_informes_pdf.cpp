@@ -363,7 +363,7 @@ void ImprimeInforme(Informe informe, Impresora& impresora, char separador)
     case Informe::FlexionT: {
         const bool enT = informe == Informe::FlexionT;
         g.MD = 250.0;
-        const ResultadoCalculo resultado = CalculaFlexion(g, enT ? 2 : 1, sinCampos);
+        const ResultadoCalculo resultado = CalculaFlexion(g, enT ? SeccionFlexion::T : SeccionFlexion::Rectangular, sinCampos);
         QCOMPARE(resultado.veredicto, Veredicto::Oculto);
         const ResultadosCeldaFlexion celda = ResultadosFlexion(g, 1, 1, separador);
         const Impresion impresion =
@@ -373,8 +373,8 @@ void ImprimeInforme(Informe informe, Impresora& impresora, char separador)
     }
     case Informe::Confinamiento:
         QCOMPARE(g.SECCION, Entero{1});
-        CalculaConfinamiento(g, g.SECCION, sinCampos);
-        InformeConfina(impresora, g, d, ResultadosConfina(g, 1, 1, separador), 0, separador);
+        CalculaConfinamiento(g, FormaDe(g), sinCampos);
+        InformeConfina(impresora, g, d, ResultadosConfina(g, 1, 1, separador), FormaPilar::Circular, separador);
         break;
     }
 }
