@@ -116,9 +116,11 @@ struct Clase {
 std::optional<Clase> ClaseDe(std::string_view tipo)
 {
     const std::string nombre = Mayusculas(SinBlancos(tipo));
-    if (nombre == Mayusculas(kTipoRectangular)) return Clase{kRectangular, ClaseFichero::Flexion, SeccionFlexion::Rectangular};
+    if (nombre == Mayusculas(kTipoRectangular))
+        return Clase{kRectangular, ClaseFichero::Flexion, SeccionFlexion::Rectangular};
     if (nombre == Mayusculas(kTipoT)) return Clase{kT, ClaseFichero::Flexion, SeccionFlexion::T};
-    if (nombre == Mayusculas(kTipoConfinamiento)) return Clase{kConfinamiento, ClaseFichero::Confinamiento, SeccionFlexion::Rectangular};
+    if (nombre == Mayusculas(kTipoConfinamiento))
+        return Clase{kConfinamiento, ClaseFichero::Confinamiento, SeccionFlexion::Rectangular};
     return std::nullopt;
 }
 
@@ -182,9 +184,9 @@ void LeeValores(CalculoFichero& calculo, const Clase& clase, const Celdas& celda
     for (const Columna& columna : kColumnas) {
         const std::string_view texto = celdas.De(columna.nombre);
         const bool aplica = (columna.ambito & clase.ambito) != 0;
-        const bool obligatoria = (columna.obligatoria & clase.ambito) != 0 ||
-                                 (columna.nombre == "LADOMENOR" && FormaDe(g) == FormaPilar::Rectangular &&
-                                  clase.ambito == kConfinamiento);
+        const bool obligatoria =
+            (columna.obligatoria & clase.ambito) != 0 ||
+            (columna.nombre == "LADOMENOR" && FormaDe(g) == FormaPilar::Rectangular && clase.ambito == kConfinamiento);
         if (texto.empty()) {
             if (aplica && obligatoria) calculo.errores.push_back(std::string(columna.nombre) + ": falta el valor.");
             continue;
@@ -220,11 +222,11 @@ void Comprueba(CalculoFichero& calculo, const Celdas& celdas)
         calculo.errores.push_back(Rechazo(nombre, valor, rechazo->mensaje));
         return;
     }
-    const bool valido = flexion ? FlexionValida({g.ANCHO, g.CANTO, g.ANCHOALMA, g.CANTOALA, g.RECUB, g.ASI, g.ASS, g.FCK,
-                                                 g.FYK, g.GC, g.GS, g.GR, g.ANCHOR, g.MCP, g.MD},
-                                                calculo.seccion)
-                                  : ConfinaValida({g.SECCION, g.DIAM, g.LADOMENOR, g.FCK, g.GC, g.GS, g.GR, g.NCP, g.INCR},
-                                                  FormaDe(g));
+    const bool valido =
+        flexion ? FlexionValida({g.ANCHO, g.CANTO, g.ANCHOALMA, g.CANTOALA, g.RECUB, g.ASI, g.ASS, g.FCK, g.FYK, g.GC,
+                                 g.GS, g.GR, g.ANCHOR, g.MCP, g.MD},
+                                calculo.seccion)
+                : ConfinaValida({g.SECCION, g.DIAM, g.LADOMENOR, g.FCK, g.GC, g.GS, g.GR, g.NCP, g.INCR}, FormaDe(g));
     if (!valido) calculo.errores.emplace_back(kMensajeDatosIncorrectos);
 }
 

@@ -15,7 +15,6 @@
 
 namespace texalon::calculo {
 
-
 // The columns of the table found in its header row: the position of each known column. A
 // header that cannot be used gives its reason in `error`.
 struct CabeceraTabla {

@@ -88,7 +88,6 @@ CeldaPivotes LeeCelda(const ResultadosCeldaFlexion& celda, char separador)
 
 std::string PorMil(double valor, char separador) { return Formato(valor, "0.00", separador) + "‰"; }
 
-
 }  // namespace
 
 void DiagramaPivotesFlexion(General& g, GeneralDibujo& d, const ResultadosCeldaFlexion& celda, char separador)

@@ -165,7 +165,6 @@ void TextosFlexion(const General& g, GeneralDibujo& d, const MedidasFlexion& m, 
     Titulo(d, b / 2.0, u / 2.0 + h, kTitulo);
 }
 
-
 // ---- Wrapped columns: the concrete in grey within the sheet in red, D = DIAM.
 
 // The section of width D and height `alto` at a rim of 0.02 D inside the sheet. The grey one

@@ -180,7 +180,8 @@ FormaColumna Forma(FormaPilar forma, double D, double L, double N)
         return {(D * D * kPi) / 4.0, D * kPi, (D * D * kPi) / 4.0, ((D * D * 0.012566368) / 4.0) * N,
                 CoeficienteForma(forma, D, L)};
     case FormaPilar::Cuadrada: return {D * D, D * 4.0, D * D, (D * D * 0.004) * N, CoeficienteForma(forma, D, L)};
-    case FormaPilar::Rectangular: return {D * L, (D + L) + (D + L), L * D, ((D * 0.004) * L) * N, CoeficienteForma(forma, D, L)};
+    case FormaPilar::Rectangular:
+        return {D * L, (D + L) + (D + L), L * D, ((D * 0.004) * L) * N, CoeficienteForma(forma, D, L)};
     default: throw ErrorEjecucion(ErrorEjecucion::kSubindiceFueraDeIntervalo);
     }
 }

@@ -9,8 +9,8 @@ namespace {
 ReglaCampo Coeficiente(const char* control, CampoEstado campo, double inicial, const char* vacio,
                        const char* noNumero, const char* menorQueUno)
 {
-    return {control, campo, "0.00", inicial, vacio, noNumero, std::nullopt, Limite{limites::kCoeficienteMinimo, menorQueUno},
-            std::nullopt, {}};
+    const Limite minimo{limites::kCoeficienteMinimo, menorQueUno};
+    return {control, campo, "0.00", inicial, vacio, noNumero, std::nullopt, minimo, std::nullopt, {}};
 }
 
 }  // namespace

@@ -1,7 +1,7 @@
 #include "files/ReglasConfina.h"
 
-#include "files/Limites.h"
 #include "engine/Calculos.h"
+#include "files/Limites.h"
 
 #include <cmath>
 

@@ -24,9 +24,8 @@ struct PapelDeSeccion {
     const char* documento;
 };
 
-constexpr PapelDeSeccion kPapelRectangular{SeccionFlexion::Rectangular,
-                                           "REFUERZO A FLEXION EN SECCIONES RECTANGULARES", kLogoFlexion,
-                                           kDocumentoFlexion};
+constexpr PapelDeSeccion kPapelRectangular{SeccionFlexion::Rectangular, "REFUERZO A FLEXION EN SECCIONES RECTANGULARES",
+                                           kLogoFlexion, kDocumentoFlexion};
 constexpr PapelDeSeccion kPapelT{SeccionFlexion::T, "REFUERZO A FLEXION EN SECCIONES EN T", kLogoFlexionT,
                                  kDocumentoFlexionT};
 
@@ -121,8 +120,7 @@ void ImprimeVeredicto(Impresora& impresora, double y, Veredicto veredicto)
 // Page 1 under the rows: the strain plane on the right and the section to scale on the left,
 // side by side from the running Y `y` of the results down to 5 cm above the bottom margin.
 void DiagramasPagina1(Impresora& impresora, const Pagina& pagina, General& g, GeneralDibujo& d,
-                      const ResultadosCeldaFlexion& celda, double y, SeccionFlexion seccion,
-                      char separador)
+                      const ResultadosCeldaFlexion& celda, double y, SeccionFlexion seccion, char separador)
 {
     const double arriba = pagina.margenSuperior + y;
     const double abajo = pagina.margenInferior + kPieDiagramas;

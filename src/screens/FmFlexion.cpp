@@ -59,11 +59,12 @@ const std::vector<const char*> kBotonesResultado = {"CM_ANCLAJE", "CM_ARMADURA",
 }  // namespace
 
 FmFlexion::FmFlexion(SeccionFlexion seccion, QWidget* padre)
-    : FormularioCalculo({seccion == SeccionFlexion::T ? QStringLiteral("FM_FLEXIONT") : QStringLiteral("FM_FLEXION"),
-                         seccion == SeccionFlexion::T ? QStringLiteral("Cálculo del refuerzo a flexión en secciones T")
-                                  : QStringLiteral("Cálculo del refuerzo a flexión en secciones rectangulares"),
-                         kBotonesResultado, true},
-                        padre),
+    : FormularioCalculo(
+          {seccion == SeccionFlexion::T ? QStringLiteral("FM_FLEXIONT") : QStringLiteral("FM_FLEXION"),
+           seccion == SeccionFlexion::T ? QStringLiteral("Cálculo del refuerzo a flexión en secciones T")
+                                        : QStringLiteral("Cálculo del refuerzo a flexión en secciones rectangulares"),
+           kBotonesResultado, true},
+          padre),
       seccion_(seccion)
 {
     QGridLayout* rejilla = CreaDisposicion();
@@ -183,7 +184,6 @@ void FmFlexion::Aceptado(const ReglaCampo& regla)
 {
     if (regla.control == "TX_ANCHO" || regla.control == "TX_ANCHOALMA") EscribeFilasAnchoRefuerzo();
 }
-
 
 void FmFlexion::LeeCampos(General& g) const
 {
@@ -315,9 +315,6 @@ void FmFlexion::CopiaAlEstado() { CopiaFlexionDeSeccion(Estado(), Textos(), secc
 
 bool FmFlexion::PideFichero(General& g) const { return PideFicheroFlexion(g); }
 
-void FmFlexion::Graba(General& g) const
-{
-    GrabaFlexion(g, g.FICHERO, seccion_, AvisoFichero());
-}
+void FmFlexion::Graba(General& g) const { GrabaFlexion(g, g.FICHERO, seccion_, AvisoFichero()); }
 
 }  // namespace texalon

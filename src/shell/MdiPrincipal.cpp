@@ -46,35 +46,37 @@ struct OrdenPrincipal {
 
 namespace {
 
+// clang-format off
+// Each command: menu item, caption, shortcut, state at start, action; then, on the toolbar, key,
+// tooltip, picture and, where it differs, the toolbar's own action.
 constexpr OrdenPrincipal kAbrir{"mnuPrincipalAbrir", "&Abrir datos", "Ctrl+A", true, &MdiPrincipal::AbrirDesdeMenu,
-                       "Abrir", "Abrir", "abrir", &MdiPrincipal::AbrirDesdeBarra};
+    "Abrir", "Abrir", "abrir", &MdiPrincipal::AbrirDesdeBarra};
 constexpr OrdenPrincipal kGuardar{"mnuPrincipalGuardar", "&Guardar datos", "Ctrl+S", false, &MdiPrincipal::GuardarDesdeMenu,
-                         "Guardar", "Guardar", "guardar", &MdiPrincipal::GuardarDesdeBarra};
+    "Guardar", "Guardar", "guardar", &MdiPrincipal::GuardarDesdeBarra};
 constexpr OrdenPrincipal kGuardarComo{"mnuPrincipalGuardarcomo", "G&uardar datos como...", "", false, &MdiPrincipal::GuardarComo};
 constexpr OrdenPrincipal kImprimir{"mnuPrincipalImprimir", "&Imprimir", "Ctrl+I", false, &MdiPrincipal::Imprimir,
-                          "Imprimir", "Imprimir", "imprimir"};
-constexpr OrdenPrincipal kConfigurar{"mnuPrincipalConfigurar", "&Configurar impresora", "", true,
-                            &MdiPrincipal::ConfigurarImpresora};
+    "Imprimir", "Imprimir", "imprimir"};
+constexpr OrdenPrincipal kConfigurar{"mnuPrincipalConfigurar", "&Configurar impresora", "", true, &MdiPrincipal::ConfigurarImpresora};
 constexpr OrdenPrincipal kSalir{"mnuPrincipalSalir", "&Salir", "F7", true, &MdiPrincipal::Salir};
-constexpr OrdenPrincipal kFlexion{"mnuCalcularFlexion", "Refuerzo a &flexión. Sección rectangular", "Ctrl+R", true,
-                         &MdiPrincipal::NuevaFlexion, "FlexionR", "Refuerzo a flexión. Sección rectangular",
-                         "flexion_r"};
-constexpr OrdenPrincipal kFlexionT{"mnuCalcularFlexionT", "Refuerzo a fle&xión. Sección en T", "Ctrl+T", true,
-                          &MdiPrincipal::NuevaFlexionT, "FlexionT", "Refuerzo a flexión. Sección en T", "flexion_t"};
-constexpr OrdenPrincipal kConfina{"mnuCalcularConfina", "Refuerzo a con&finamiento", "Ctrl+C", true,
-                         &MdiPrincipal::NuevoConfinamiento, "Confina", "Refuerzo de confinamiento", "confina"};
-constexpr OrdenPrincipal kCarac{"mnuCalcularCarac", "Ca&racterísticas mecánicas del refuerzo", "", true,
-                       &MdiPrincipal::Caracteristicas, "Carac", "Características mecánicas", "carac"};
+constexpr OrdenPrincipal kFlexion{"mnuCalcularFlexion", "Refuerzo a &flexión. Sección rectangular", "Ctrl+R", true, &MdiPrincipal::NuevaFlexion,
+    "FlexionR", "Refuerzo a flexión. Sección rectangular", "flexion_r"};
+constexpr OrdenPrincipal kFlexionT{"mnuCalcularFlexionT", "Refuerzo a fle&xión. Sección en T", "Ctrl+T", true, &MdiPrincipal::NuevaFlexionT,
+    "FlexionT", "Refuerzo a flexión. Sección en T", "flexion_t"};
+constexpr OrdenPrincipal kConfina{"mnuCalcularConfina", "Refuerzo a con&finamiento", "Ctrl+C", true, &MdiPrincipal::NuevoConfinamiento,
+    "Confina", "Refuerzo de confinamiento", "confina"};
+constexpr OrdenPrincipal kCarac{"mnuCalcularCarac", "Ca&racterísticas mecánicas del refuerzo", "", true, &MdiPrincipal::Caracteristicas,
+    "Carac", "Características mecánicas", "carac"};
 constexpr OrdenPrincipal kAyudaPrograma{"mnuAyudaPrograma", "Ayuda del programa", "F1", true, &MdiPrincipal::AyudaPrograma,
-                               "Ayuda", "Ayuda del programa", "ayuda"};
+    "Ayuda", "Ayuda del programa", "ayuda"};
 constexpr OrdenPrincipal kManual{"mnuAyudaManual", "Manual de referencia", "", true, &MdiPrincipal::Guia,
-                        "Guia", "Manual de referencia", "guia"};
+    "Guia", "Manual de referencia", "guia"};
 constexpr OrdenPrincipal kWeb{"mnuAyudaWeb", "Velmora en la web", "", true, &MdiPrincipal::Web,
-                     "Web", "Velmora en la web", "web"};
+    "Web", "Velmora en la web", "web"};
 constexpr OrdenPrincipal kContactar{"mnuAyudaContactar", "Contactar con Velmora", "", true, &MdiPrincipal::Contactar,
-                           "Mail", "Contactar con Velmora", "mail"};
+    "Mail", "Contactar con Velmora", "mail"};
 constexpr OrdenPrincipal kAcerca{"mnuAyudaAcerca", "Acerca de...", "", true, &MdiPrincipal::AcercaDe,
-                        "Info", "Acerca de...", "info"};
+    "Info", "Acerca de...", "info"};
+// clang-format on
 
 constexpr OrdenPrincipal kPrincipalNada1{"mnuPrincipalNada1"};
 constexpr OrdenPrincipal kPrincipalNada2{"mnuPrincipalNada2"};
@@ -82,11 +84,11 @@ constexpr OrdenPrincipal kCalcularNada1{"mnuCalcularNada1"};
 constexpr OrdenPrincipal kAyudaNada1{"mnuAyudaNada1"};
 constexpr OrdenPrincipal kAyudaNada2{"mnuAyudaNada2"};
 
-constexpr const OrdenPrincipal* kPrincipal[] = {&kAbrir, &kGuardar, &kGuardarComo, &kPrincipalNada1,
-                                       &kImprimir, &kConfigurar, &kPrincipalNada2, &kSalir};
+constexpr const OrdenPrincipal* kPrincipal[] = {&kAbrir,    &kGuardar,    &kGuardarComo,    &kPrincipalNada1,
+                                                &kImprimir, &kConfigurar, &kPrincipalNada2, &kSalir};
 constexpr const OrdenPrincipal* kCalcular[] = {&kFlexion, &kFlexionT, &kConfina, &kCalcularNada1, &kCarac};
-constexpr const OrdenPrincipal* kAyuda[] = {&kAyudaPrograma, &kManual, &kAyudaNada1, &kWeb,
-                                   &kContactar, &kAyudaNada2, &kAcerca};
+constexpr const OrdenPrincipal* kAyuda[] = {&kAyudaPrograma, &kManual,     &kAyudaNada1, &kWeb,
+                                            &kContactar,     &kAyudaNada2, &kAcerca};
 
 struct Menu {
     const char* nombre;
@@ -101,8 +103,8 @@ constexpr Menu kMenus[] = {
 };
 
 // The toolbar's buttons after its leading separator, in their order.
-constexpr const OrdenPrincipal* kBarra[] = {&kAbrir, &kGuardar, &kImprimir, &kCarac, &kFlexion, &kFlexionT,
-                                   &kConfina, &kAyudaPrograma, &kManual, &kWeb, &kContactar, &kAcerca};
+constexpr const OrdenPrincipal* kBarra[] = {&kAbrir,   &kGuardar,       &kImprimir, &kCarac, &kFlexion,   &kFlexionT,
+                                            &kConfina, &kAyudaPrograma, &kManual,   &kWeb,   &kContactar, &kAcerca};
 
 }  // namespace
 

@@ -43,8 +43,8 @@ void EsperaFalloEnJson(const Ejecucion& ejecucion, const std::string& salida)
 // The object of a file that failed: its name, its kind where it was read, and the error.
 std::string ObjetoDeError(const std::string& fichero, const std::string& tipo, const std::string& error)
 {
-    return "{\"fichero\":\"" + fichero + "\"" + (tipo.empty() ? "" : ",\"tipo\":\"" + tipo + "\"") +
-           ",\"error\":\"" + error + "\"}\n";
+    return "{\"fichero\":\"" + fichero + "\"" + (tipo.empty() ? "" : ",\"tipo\":\"" + tipo + "\"") + ",\"error\":\"" +
+           error + "\"}\n";
 }
 
 // A rectangular beam file with one line changed that the command refuses, in text and in JSON.

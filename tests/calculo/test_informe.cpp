@@ -78,7 +78,8 @@ std::string TablaDeDosElementos(const DirectorioTemporal& directorio, const std:
 // The command on that table with --informe to `destino`, which must end well.
 void InformaDeLaTabla(const std::string& tabla, const std::string& destino, ImpresorasDePrueba& impresoras)
 {
-    const Ejecucion ejecucion = EjecutaCalculo({"--tabla", "--informe", destino, tabla}, ',', impresoras.Dispositivos());
+    const Ejecucion ejecucion =
+        EjecutaCalculo({"--tabla", "--informe", destino, tabla}, ',', impresoras.Dispositivos());
     EXPECT_EQ(ejecucion.estado, 0) << ejecucion.errores;
 }
 

@@ -2,8 +2,8 @@
 
 #include <gtest/gtest.h>
 
-#include <tuple>
 #include <string>
+#include <tuple>
 
 namespace texalon::prueba {
 
@@ -13,8 +13,8 @@ namespace {
 // one, each set as one tuple: two states compare in a single expectation that prints them all.
 auto CamposDeFlexion(const General& g)
 {
-    return std::tuple(g.ANCHO, g.CANTO, g.ANCHOALMA, g.CANTOALA, g.RECUB, g.ASI, g.ASS, g.ANCHOR, g.EPS0, g.MD,
-                      g.MCP, g.GC, g.GS, g.GR, g.FCK, g.FYK);
+    return std::tuple(g.ANCHO, g.CANTO, g.ANCHOALMA, g.CANTOALA, g.RECUB, g.ASI, g.ASS, g.ANCHOR, g.EPS0, g.MD, g.MCP,
+                      g.GC, g.GS, g.GR, g.FCK, g.FYK);
 }
 auto CamposDeConfinamiento(const General& g)
 {
@@ -65,12 +65,14 @@ double Campo(const General& g, std::string_view nombre)
 
 void EsperaCampos(const General& g, std::initializer_list<std::pair<std::string_view, double>> valores)
 {
-    for (const auto& [nombre, valor] : valores) EXPECT_EQ(Campo(g, nombre), valor) << nombre;
+    for (const auto& [nombre, valor] : valores)
+        EXPECT_EQ(Campo(g, nombre), valor) << nombre;
 }
 
 void EsperaMismosCampos(const General& g, const General& otro, std::initializer_list<std::string_view> campos)
 {
-    for (std::string_view nombre : campos) EXPECT_EQ(Campo(g, nombre), Campo(otro, nombre)) << nombre;
+    for (std::string_view nombre : campos)
+        EXPECT_EQ(Campo(g, nombre), Campo(otro, nombre)) << nombre;
 }
 
 General EstadoAjeno()

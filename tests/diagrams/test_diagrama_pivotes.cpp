@@ -79,8 +79,18 @@ ResultadosCeldaFlexion Celda(const std::string& tipo, const std::string& pivote,
                              const std::string& ec, const std::string& er, const std::string& esi,
                              const std::string& ess, const std::string& e0)
 {
-    return {.tipo = tipo, .MUSR = "222,4", .EPS0 = e0, .MRB = "300,0", .MLIMCR = "400,0", .PIVOTE = pivote,
-            .FN = fn, .EPSC = ec, .EPSSI = esi, .EPSSS = ess, .EPSR = er, .MU = "250,0"};
+    return {.tipo = tipo,
+            .MUSR = "222,4",
+            .EPS0 = e0,
+            .MRB = "300,0",
+            .MLIMCR = "400,0",
+            .PIVOTE = pivote,
+            .FN = fn,
+            .EPSC = ec,
+            .EPSSI = esi,
+            .EPSSS = ess,
+            .EPSR = er,
+            .MU = "250,0"};
 }
 
 // The diagram of the cell on the state g.
@@ -434,9 +444,8 @@ TEST(DiagramaPivotes, UnSoloCampoSinNumeroEsElErrorDeTipos)
 
 TEST(DiagramaPivotes, TituloSinTipoEsElErrorDeSubindice)
 {
-    const int error = ErrorAlDibujar(
-        DiagramaPivotes,
-        Celda("Refuerzo tipo TEXALON Z - Núm. capas: 1", "R", "0,100", "1,60", "9,64", "8,60", "0,70", "0,00"));
+    const int error = ErrorAlDibujar(DiagramaPivotes, Celda("Refuerzo tipo TEXALON Z - Núm. capas: 1", "R", "0,100",
+                                                            "1,60", "9,64", "8,60", "0,70", "0,00"));
     EXPECT_EQ(error, ErrorEjecucion::kSubindiceFueraDeIntervalo) << "un título sin tipo no se puede dibujar";
     EXPECT_EQ(error, 9);
 }
@@ -444,8 +453,8 @@ TEST(DiagramaPivotes, TituloSinTipoEsElErrorDeSubindice)
 TEST(DiagramaPivotes, ElCodigoSeTomaPorSuPosicionYNoBuscandolo)
 {
     // The code "L" is in the caption, but not at the 23rd character.
-    EXPECT_EQ(ErrorAlDibujar(DiagramaPivotes, Celda("Refuerzo TEXALON L - Núm. capas: 1", "R", "0,100", "1,60",
-                                                    "9,64", "8,60", "0,70", "0,00")),
+    EXPECT_EQ(ErrorAlDibujar(DiagramaPivotes, Celda("Refuerzo TEXALON L - Núm. capas: 1", "R", "0,100", "1,60", "9,64",
+                                                    "8,60", "0,70", "0,00")),
               9)
         << "el código no está en su sitio";
 }

@@ -184,8 +184,10 @@ TEST(DibujaSeccion, SinAceroSuperiorNoHayBarraNiTextoYLaNumeracionSeCierra)
 
 TEST(DibujaSeccion, SinNingunAceroQuedanDieciochoElementos)
 {
-    const GeneralDibujo d =
-        Dibujada(DibujaSeccion, ',', SeccionFlexion(), [](General& g) { g.ASI = 0.0; g.ASS = 0.0; });
+    const GeneralDibujo d = Dibujada(DibujaSeccion, ',', SeccionFlexion(), [](General& g) {
+        g.ASI = 0.0;
+        g.ASS = 0.0;
+    });
     ASSERT_EQ(d.NLISTA, 18);
     EXPECT_EQ(Lee(d, 5).color, kLamina);
     EXPECT_EQ(Lee(d, 17).texto, "0,125");
@@ -196,8 +198,11 @@ TEST(DibujaSeccion, SinNingunAceroQuedanDieciochoElementos)
 
 TEST(DibujaSeccion, RectanguloMasAnchoQueProfundoTomaElCantoComoReferencia)
 {
-    const GeneralDibujo d = Dibujada(DibujaSeccion, ',', SeccionFlexion(),
-                                     [](General& g) { g.ANCHO = 1.2; g.CANTO = 0.3; g.ANCHOR = 0.6; });
+    const GeneralDibujo d = Dibujada(DibujaSeccion, ',', SeccionFlexion(), [](General& g) {
+        g.ANCHO = 1.2;
+        g.CANTO = 0.3;
+        g.ANCHOR = 0.6;
+    });
     const double b = 1.2, h = 0.3, r = 0.05, u = 0.3, xa = (1.2 - 0.6) / 2;
     ASSERT_EQ(d.NLISTA, 22);
     EsperaForma(d, 5, Clase::Barra, u / 10, Grueso(10) + r, b - u / 10, r, kAcero);
@@ -228,8 +233,10 @@ TEST(DibujaSeccion, LaminaMasAnchaQueLaSeccionSobresaleAAmbosLados)
 
 TEST(DibujaSeccion, ElTituloEstaMediaReferenciaPorEncima)
 {
-    const GeneralDibujo d =
-        Dibujada(DibujaSeccion, ',', SeccionFlexion(), [](General& g) { g.ANCHO = 0.9; g.CANTO = 0.45; });
+    const GeneralDibujo d = Dibujada(DibujaSeccion, ',', SeccionFlexion(), [](General& g) {
+        g.ANCHO = 0.9;
+        g.CANTO = 0.45;
+    });
     const Elemento titulo = Lee(d, d.NLISTA);
     EXPECT_EQ(titulo.texto, "SECCION");
     EXPECT_DOUBLE_EQ(titulo.y1 - 0.45, 0.45 / 2);
@@ -339,8 +346,11 @@ TEST(DibujaSeccionT, AlmaMasAnchaQueElAlaSobresaleYDesplazaLaCotaDelCanto)
 
 TEST(DibujaSeccionT, AlaIgualAlAlmaNoDesplazaLaCotaDelCanto)
 {
-    const GeneralDibujo d = Dibujada(DibujaSeccionT, ',', SeccionFlexion(),
-                                     [](General& g) { g.ANCHO = 0.3; g.ANCHOALMA = 0.3; g.CANTO = 0.5; });
+    const GeneralDibujo d = Dibujada(DibujaSeccionT, ',', SeccionFlexion(), [](General& g) {
+        g.ANCHO = 0.3;
+        g.ANCHOALMA = 0.3;
+        g.CANTO = 0.5;
+    });
     const double u = 0.3;
     EsperaCotaVertical(d, 12, -u / 10, 0, 0.5, -u / 6.66666, -u / 20);
     EsperaForma(d, 9, Clase::Barra, 0.0 + u / 10, Grueso(10) + 0.05, 0.3 - u / 10, 0.05, kAcero);
@@ -348,8 +358,11 @@ TEST(DibujaSeccionT, AlaIgualAlAlmaNoDesplazaLaCotaDelCanto)
 
 TEST(DibujaSeccionT, AlaMasAnchaQueProfundaTomaElCantoComoReferencia)
 {
-    const GeneralDibujo d = Dibujada(DibujaSeccionT, ',', SeccionFlexion(),
-                                     [](General& g) { g.ANCHO = 1.0; g.CANTO = 0.5; g.ANCHOALMA = 0.3; });
+    const GeneralDibujo d = Dibujada(DibujaSeccionT, ',', SeccionFlexion(), [](General& g) {
+        g.ANCHO = 1.0;
+        g.CANTO = 0.5;
+        g.ANCHOALMA = 0.3;
+    });
     const double u = 0.5;
     EsperaCotaVertical(d, 12, -u / 10, 0, 0.5, -u / 6.66666, -u / 20);
     EsperaForma(d, 11, Clase::Barra, (1.0 - 0.125) / 2, 0, 1.0 - (1.0 - 0.125) / 2, -u / 60, kLamina);
@@ -358,8 +371,11 @@ TEST(DibujaSeccionT, AlaMasAnchaQueProfundaTomaElCantoComoReferencia)
 
 TEST(DibujaSeccionT, SeccionMenosProfundaQueAnchaTomaElCantoAunqueElAlmaSeaMasAncha)
 {
-    const GeneralDibujo d = Dibujada(DibujaSeccionT, ',', SeccionFlexion(),
-                                     [](General& g) { g.ANCHO = 1.0; g.CANTO = 0.5; g.ANCHOALMA = 1.2; });
+    const GeneralDibujo d = Dibujada(DibujaSeccionT, ',', SeccionFlexion(), [](General& g) {
+        g.ANCHO = 1.0;
+        g.CANTO = 0.5;
+        g.ANCHOALMA = 1.2;
+    });
     const double u = 0.5;
     const double o = (1.2 - 1.0) / 2;
     EsperaCotaVertical(d, 12, -u / 10 - o, 0, 0.5, -u / 6.66666 - o, -u / 20 - o);
@@ -369,8 +385,11 @@ TEST(DibujaSeccionT, SeccionMenosProfundaQueAnchaTomaElCantoAunqueElAlmaSeaMasAn
 
 TEST(DibujaSeccionT, LaLaminaQuedaCentradaBajoElAlma)
 {
-    const GeneralDibujo d = Dibujada(DibujaSeccionT, ',', SeccionFlexion(),
-                                     [](General& g) { g.ANCHO = 0.6; g.ANCHOALMA = 0.2; g.ANCHOR = 0.1; });
+    const GeneralDibujo d = Dibujada(DibujaSeccionT, ',', SeccionFlexion(), [](General& g) {
+        g.ANCHO = 0.6;
+        g.ANCHOALMA = 0.2;
+        g.ANCHOR = 0.1;
+    });
     const Elemento lamina = Lee(d, 11);
     const Elemento alma = Lee(d, 21);  // the web width's dimension line
     ASSERT_EQ(lamina.color, kLamina);
@@ -385,8 +404,10 @@ TEST(DibujaSeccionT, LaLaminaQuedaCentradaBajoElAlma)
 
 TEST(DibujaSeccionT, SinAcerosLaNumeracionSeCierra)
 {
-    const GeneralDibujo d =
-        Dibujada(DibujaSeccionT, ',', SeccionFlexion(), [](General& g) { g.ASI = 0.0; g.ASS = 0.0; });
+    const GeneralDibujo d = Dibujada(DibujaSeccionT, ',', SeccionFlexion(), [](General& g) {
+        g.ASI = 0.0;
+        g.ASS = 0.0;
+    });
     ASSERT_EQ(d.NLISTA, 30);
     EsperaForma(d, 9, Clase::Barra, (0.4 - 0.125) / 2, 0, 0.4 - (0.4 - 0.125) / 2, -0.4 / 60, kLamina);
     EXPECT_EQ(Lee(d, 25).texto, "0,60");
@@ -453,8 +474,10 @@ TEST(DibujaSeccionConfina, RectanguloMuestraElLadoMenorAlLadoYElMayorDebajo)
 
 TEST(DibujaSeccionConfina, ElTituloEstaUnTercioDeLaAlturaPorEncima)
 {
-    const GeneralDibujo d =
-        Dibujada(DibujaSeccionConfina, '.', Columna(3), [](General& g) { g.DIAM = 0.9; g.LADOMENOR = 0.3; });
+    const GeneralDibujo d = Dibujada(DibujaSeccionConfina, '.', Columna(3), [](General& g) {
+        g.DIAM = 0.9;
+        g.LADOMENOR = 0.3;
+    });
     ASSERT_EQ(d.NLISTA, 12);
     const Elemento titulo = Lee(d, 12);
     EXPECT_DOUBLE_EQ(titulo.y1 - 0.3, 0.3 / 3);

@@ -21,7 +21,8 @@ General ProyectoCon(Cambio cambia)
 template <class Calcula>
 void Calculo(benchmark::State& estado, General g, Calcula calcula)
 {
-    for (auto _ : estado) benchmark::DoNotOptimize(calcula(g));
+    for (auto _ : estado)
+        benchmark::DoNotOptimize(calcula(g));
 }
 
 const auto kFlexionRectangular = [](General& g) { return CalculaFlexion(g, SeccionFlexion::Rectangular, nullptr); };
@@ -29,7 +30,11 @@ const auto kFlexionT = [](General& g) { return CalculaFlexion(g, SeccionFlexion:
 const auto kConfinamiento = [](General& g) { return CalculaConfinamiento(g, FormaPilar::Circular, nullptr); };
 
 BENCHMARK_CAPTURE(Calculo, FlexionRectangular, ProyectoCon([](General& g) { g.MCP = 50.0; }), kFlexionRectangular);
-BENCHMARK_CAPTURE(Calculo, FlexionT, ProyectoCon([](General& g) { g.CANTOALA = 0.05; g.MCP = 50.0; }), kFlexionT);
+BENCHMARK_CAPTURE(Calculo, FlexionT, ProyectoCon([](General& g) {
+                      g.CANTOALA = 0.05;
+                      g.MCP = 50.0;
+                  }),
+                  kFlexionT);
 BENCHMARK_CAPTURE(Calculo, Confinamiento, ProyectoCon([](General& g) { g.NCP = 1000.0; }), kConfinamiento);
 
 }  // namespace

@@ -89,7 +89,8 @@ std::vector<std::string> ConLinea(std::vector<std::string> lineas, std::size_t l
 std::vector<std::string> ConLineas(std::vector<std::string> lineas,
                                    std::initializer_list<std::pair<std::size_t, std::string>> cambios)
 {
-    for (const auto& [linea, texto] : cambios) lineas.at(linea - 1) = texto;
+    for (const auto& [linea, texto] : cambios)
+        lineas.at(linea - 1) = texto;
     return lineas;
 }
 

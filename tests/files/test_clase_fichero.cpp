@@ -9,7 +9,11 @@ namespace texalon {
 namespace {
 
 // A file name and the kind of project that its name makes it: one row a case.
-struct NombreDeFichero { const char* nombre; const char* fichero; ClaseFichero clase; };
+struct NombreDeFichero {
+    const char* nombre;
+    const char* fichero;
+    ClaseFichero clase;
+};
 
 class ClaseDeFichero : public ::testing::TestWithParam<NombreDeFichero> {};
 

@@ -18,9 +18,9 @@ namespace {
 
 using prueba::Avisos;
 using prueba::DirectorioTemporal;
+using prueba::Lectura;
 using prueba::LeeFicheroConfina;
 using prueba::LeeFicheroFlexion;
-using prueba::Lectura;
 
 const std::string kArchivoNoEncontrado = "Error 53: No se ha encontrado el archivo";
 const std::string kRutaNoEncontrada = "Error 76: No se ha encontrado la ruta de acceso";
@@ -243,7 +243,8 @@ TEST(GrabaFlexion, DirectorioQueNoExisteDaError76YNoTocaElEstado)
     DirectorioTemporal dir;
     General g = prueba::EstadoAjeno();
     const General antes = g;
-    EsperaFallo(g, AvisosDeGrabaFlexion(g, dir.Fichero("falta/flexion.vmf"), SeccionFlexion::Rectangular), kRutaNoEncontrada);
+    EsperaFallo(g, AvisosDeGrabaFlexion(g, dir.Fichero("falta/flexion.vmf"), SeccionFlexion::Rectangular),
+                kRutaNoEncontrada);
     prueba::EsperaMismosValoresFlexion(antes, g);
     EXPECT_FALSE(std::filesystem::exists(dir.Ruta() / "falta"));
 }

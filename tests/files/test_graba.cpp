@@ -29,7 +29,11 @@ General EstadoDeArranque()
 }
 
 // The start values written as each kind of flexure file, byte by byte: one row a case.
-struct FlexionDeArranque { const char* nombre; SeccionFlexion tipo; const char* bytes; };
+struct FlexionDeArranque {
+    const char* nombre;
+    SeccionFlexion tipo;
+    const char* bytes;
+};
 
 class GrabaFlexionDeArranque : public ::testing::TestWithParam<FlexionDeArranque> {};
 
@@ -104,7 +108,11 @@ TEST(GrabaConfina, OrdenDeLineasYSinFykNiNu)
 }
 
 // The start values with a few fields changed, and the rectangular file written from them.
-struct FlexionCambiada { const char* nombre; void (*cambia)(General&); const char* bytes; };
+struct FlexionCambiada {
+    const char* nombre;
+    void (*cambia)(General&);
+    const char* bytes;
+};
 
 class GrabaFlexionCambiada : public ::testing::TestWithParam<FlexionCambiada> {};
 

@@ -55,8 +55,15 @@ TEST(LeeConfina, PilarRectangularGuardaCadaValorEnSuCampo)
 {
     const Lectura l = LeeLineasConfina({"3", "0.5", "0.4", "30", "1.6", "1.2", "1.3", "1200", "1.25"});
     EsperaAceptado(l);
-    prueba::EsperaCampos(l.g, {{"SECCION", 3}, {"DIAM", 0.5}, {"LADOMENOR", 0.4}, {"FCK", 30.0}, {"GC", 1.6},
-                               {"GS", 1.2}, {"GR", 1.3}, {"NCP", 1200.0}, {"INCR", 1.25}});
+    prueba::EsperaCampos(l.g, {{"SECCION", 3},
+                               {"DIAM", 0.5},
+                               {"LADOMENOR", 0.4},
+                               {"FCK", 30.0},
+                               {"GC", 1.6},
+                               {"GS", 1.2},
+                               {"GR", 1.3},
+                               {"NCP", 1200.0},
+                               {"INCR", 1.25}});
     // Flexure fields are no business of the confinement reader.
     prueba::EsperaCampos(l.g, {{"ANCHO", 0.9}, {"ASI", 12.5}});
 }

@@ -61,7 +61,8 @@ inline std::vector<plataforma::Operacion> ImpresoEn(double x, double y, const st
 inline std::vector<plataforma::Operacion> Seguidas(std::initializer_list<std::vector<plataforma::Operacion>> partes)
 {
     std::vector<plataforma::Operacion> todas;
-    for (const auto& parte : partes) todas.insert(todas.end(), parte.begin(), parte.end());
+    for (const auto& parte : partes)
+        todas.insert(todas.end(), parte.begin(), parte.end());
     return todas;
 }
 

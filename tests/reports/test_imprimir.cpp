@@ -188,9 +188,9 @@ TEST(ImprimirFilas, LaCabeceraVaEnNegritaYLaQuitaDespues)
 {
     ImpresoraDoble impresora;
     Cabecera(impresora, 2.0, 4.0, "DATOS GENERALES");
-    EsperaOperaciones(impresora.operaciones, Seguidas({{{"FontBold", {1}, ""}},
-                                                       ImpresoEn(2.0, 4.0, "DATOS GENERALES"),
-                                                       {{"FontBold", {0}, ""}}}));
+    EsperaOperaciones(
+        impresora.operaciones,
+        Seguidas({{{"FontBold", {1}, ""}}, ImpresoEn(2.0, 4.0, "DATOS GENERALES"), {{"FontBold", {0}, ""}}}));
 }
 
 TEST(ImprimirFilas, EtiquetaYValorEnSusColumnasYUnaLineaNaturalMasAbajo)
@@ -408,8 +408,8 @@ TEST(ImprimirLista, LasLineasGruesasDoblanSuAnchoEnElPapel)
     AnadeLinea(d, 0, 0, 10, 0, 0, kContinua, 1);
     ImpresoraDoble impresora;
     EsperaOperaciones(ImprimeConMarco(d, impresora), Seguidas({LineaEnPapel(6, 0, {4.5, 22.9, 16.5, 22.9, 0}),
-                                                                LineaEnPapel(4, 0, {4.5, 22.9, 16.5, 22.9, 0}),
-                                                                LineaEnPapel(1, 0, {4.5, 22.9, 16.5, 22.9, 0})}));
+                                                               LineaEnPapel(4, 0, {4.5, 22.9, 16.5, 22.9, 0}),
+                                                               LineaEnPapel(1, 0, {4.5, 22.9, 16.5, 22.9, 0})}));
 }
 
 TEST(ImprimirLista, ElEstiloTresEsPunteadoYElUnoContinuo)

@@ -103,14 +103,18 @@ int main(int argc, char** argv)
     qputenv("QT_QPA_PLATFORM", "offscreen");
     AplicacionTexalon aplicacion(argc, argv);
     PreparaAplicacion(aplicacion);
-    benchmark::RegisterBenchmark("AbreYCierra/FM_FLEXION", AbreYCierra, [] { return new FmFlexion(SeccionFlexion::Rectangular); });
-    benchmark::RegisterBenchmark("AbreYCierra/FM_FLEXIONT", AbreYCierra, [] { return new FmFlexion(SeccionFlexion::T); });
+    benchmark::RegisterBenchmark("AbreYCierra/FM_FLEXION", AbreYCierra,
+                                 [] { return new FmFlexion(SeccionFlexion::Rectangular); });
+    benchmark::RegisterBenchmark("AbreYCierra/FM_FLEXIONT", AbreYCierra,
+                                 [] { return new FmFlexion(SeccionFlexion::T); });
     benchmark::RegisterBenchmark("AbreYCierra/FM_CONFINA", AbreYCierra, [] { return new FmConfina; });
     benchmark::RegisterBenchmark("AbreYCierra/FM_CARAC", AbreYCierra, [] { return new FmCarac; });
-    benchmark::RegisterBenchmark("Calcular/FM_FLEXION", Calcula, [] { return new FmFlexion(SeccionFlexion::Rectangular); });
+    benchmark::RegisterBenchmark("Calcular/FM_FLEXION", Calcula,
+                                 [] { return new FmFlexion(SeccionFlexion::Rectangular); });
     benchmark::RegisterBenchmark("Calcular/FM_FLEXIONT", Calcula, [] { return new FmFlexion(SeccionFlexion::T); });
     benchmark::RegisterBenchmark("Calcular/FM_CONFINA", Calcula, [] { return new FmConfina; });
-    benchmark::RegisterBenchmark("Zoom/FM_FLEXION", Amplia, [] { return new FmFlexion(SeccionFlexion::Rectangular); }, "PIC_FLEXION");
+    benchmark::RegisterBenchmark(
+        "Zoom/FM_FLEXION", Amplia, [] { return new FmFlexion(SeccionFlexion::Rectangular); }, "PIC_FLEXION");
     benchmark::RegisterBenchmark("Zoom/FM_CONFINA", Amplia, [] { return new FmConfina; }, "PIC_CONFINA");
     benchmark::Initialize(&argc, argv);
     benchmark::RunSpecifiedBenchmarks();

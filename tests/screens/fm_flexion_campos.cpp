@@ -220,8 +220,7 @@ void PruebaFlexion::cadaCampoConSusMensajesYSuReinicio_data()
     prueba::Columnas<bool, QString, QString, QString, double>({"seccionT", "control", "vacio", "noNumero", "reinicio"});
     const auto fila = [](bool t, const char* control, const char* vacio, const char* noNumero, double reinicio) {
         QTest::newRow(qPrintable(QString::fromLatin1(control) + (t ? QStringLiteral(" T") : QString())))
-            << t << QString::fromLatin1(control) << QString::fromUtf8(vacio) << QString::fromUtf8(noNumero)
-            << reinicio;
+            << t << QString::fromLatin1(control) << QString::fromUtf8(vacio) << QString::fromUtf8(noNumero) << reinicio;
     };
     // The T section's own fields, then those of both sections.
     fila(true, "TX_ANCHOALMA", "Debe darse el ancho del alma de la sección.",

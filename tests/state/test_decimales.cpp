@@ -14,7 +14,11 @@ namespace {
 // --- Decimales ---------------------------------------------------------------
 
 // A text and the value Decimales reads in it: each row is one case, named for what it shows.
-struct Lectura { const char* nombre; std::string_view texto; double valor; };
+struct Lectura {
+    const char* nombre;
+    std::string_view texto;
+    double valor;
+};
 
 class LecturaDeDecimales : public ::testing::TestWithParam<Lectura> {};
 
@@ -94,7 +98,11 @@ TEST(Decimales, SubnormalSeConserva) { EXPECT_EQ(Decimales("5e-324"), 5e-324); }
 // --- EsNumerico --------------------------------------------------------------
 
 // A text and whether EsNumerico lets it through.
-struct Reconocimiento { const char* nombre; std::string_view texto; bool numerico; };
+struct Reconocimiento {
+    const char* nombre;
+    std::string_view texto;
+    bool numerico;
+};
 
 class TextoNumerico : public ::testing::TestWithParam<Reconocimiento> {};
 

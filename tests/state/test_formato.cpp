@@ -18,7 +18,13 @@ namespace {
 // --- Formato, decimal comma and decimal period ----------------------------------
 
 // A value, a pattern and the text Formato writes with each separator: one row a case.
-struct Redondeado { const char* nombre; double valor; const char* patron; const char* conComa; const char* conPunto; };
+struct Redondeado {
+    const char* nombre;
+    double valor;
+    const char* patron;
+    const char* conComa;
+    const char* conPunto;
+};
 
 class Redondeo : public ::testing::TestWithParam<Redondeado> {};
 

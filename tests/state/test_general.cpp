@@ -12,7 +12,11 @@ namespace {
 
 // A field that start-up writes, and its value: zeros exactly where the program counts on a
 // zero, and the defaults of the screens.
-struct ValorDeArranque { const char* nombre; double General::*campo; double valor; };
+struct ValorDeArranque {
+    const char* nombre;
+    double General::*campo;
+    double valor;
+};
 
 class Arranque : public ::testing::TestWithParam<ValorDeArranque> {};
 

@@ -22,8 +22,8 @@
 #include <QPixmap>
 #include <QSet>
 #include <QTemporaryDir>
-#include <QXmlStreamReader>
 #include <QTest>
+#include <QXmlStreamReader>
 
 #include <algorithm>
 #include <array>

@@ -191,8 +191,14 @@ void PruebaLienzo::LosLimitesDeUnaLineaCubrenSuTrazo()
             QVERIFY2(limites.adjusted(-1e-9, -1e-9, 1e-9, 1e-9).contains(trazo),
                      qPrintable(QStringLiteral("grosor %1: %2 %3 %4 %5 frente a %6 %7 %8 %9")
                                     .arg(grosor)
-                                    .arg(limites.left()).arg(limites.top()).arg(limites.right()).arg(limites.bottom())
-                                    .arg(trazo.left()).arg(trazo.top()).arg(trazo.right()).arg(trazo.bottom())));
+                                    .arg(limites.left())
+                                    .arg(limites.top())
+                                    .arg(limites.right())
+                                    .arg(limites.bottom())
+                                    .arg(trazo.left())
+                                    .arg(trazo.top())
+                                    .arg(trazo.right())
+                                    .arg(trazo.bottom())));
             QVERIFY(limites.width() <= trazo.width() + 2 * grosor);
             QVERIFY(limites.height() <= trazo.height() + 2 * grosor);
         }

@@ -243,8 +243,7 @@ void PruebaLienzo::RedibujaListaNiCreaNiDestruye()
     CERCA(Uno(ClasePantalla::Linea).x2, 9600);
     lienzo.Escena().RedibujaLista(D(), 0);
     const QList<QGraphicsItem*> despues = lienzo.scene()->items();
-    QCOMPARE(QSet<QGraphicsItem*>(despues.begin(), despues.end()),
-             QSet<QGraphicsItem*>(antes.begin(), antes.end()));
+    QCOMPARE(QSet<QGraphicsItem*>(despues.begin(), despues.end()), QSet<QGraphicsItem*>(antes.begin(), antes.end()));
     ListaDeZoomSinAmpliar();
     QCOMPARE(ContadoresDelEstado(), (Contadores{1, 1, 1, 1, 1, 1}));
     CERCA(D().ESCALAX, 32);
@@ -273,8 +272,7 @@ void PruebaLienzo::RedibujaListaMasLargaQueLoDibujadoSoloAjustaLoQueExiste()
     Eje(D(), 0, 5, 10, 5);
     lienzo.Escena().RedibujaLista(D(), 0);
     const QList<QGraphicsItem*> despues = lienzo.scene()->items();
-    QCOMPARE(QSet<QGraphicsItem*>(despues.begin(), despues.end()),
-             QSet<QGraphicsItem*>(antes.begin(), antes.end()));
+    QCOMPARE(QSet<QGraphicsItem*>(despues.begin(), despues.end()), QSet<QGraphicsItem*>(antes.begin(), antes.end()));
     QCOMPARE(D().NLINEA, Entero{1});
     QCOMPARE(D().NSECCIR, Entero{1});
     const std::vector<ElementoPantalla> lineas = De(ClasePantalla::Linea);

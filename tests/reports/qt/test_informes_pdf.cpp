@@ -363,7 +363,8 @@ void ImprimeInforme(Informe informe, Impresora& impresora, char separador)
     case Informe::FlexionT: {
         const bool enT = informe == Informe::FlexionT;
         g.MD = 250.0;
-        const ResultadoCalculo resultado = CalculaFlexion(g, enT ? SeccionFlexion::T : SeccionFlexion::Rectangular, sinCampos);
+        const ResultadoCalculo resultado =
+            CalculaFlexion(g, enT ? SeccionFlexion::T : SeccionFlexion::Rectangular, sinCampos);
         QCOMPARE(resultado.veredicto, Veredicto::Oculto);
         const ResultadosCeldaFlexion celda = ResultadosFlexion(g, 1, 1, separador);
         const Impresion impresion =
@@ -536,19 +537,20 @@ private slots:
             {"Ancho del refuerzo:", "0.125 m"},
             {"Momento actual:", "0.00 mkN"},
             {"Mom. flector solicitante:", "250.00 mkN"},
-        }, resultados{
-            {"Momento último s/r:", "222.5 mkN"},
-            {"Predeformación inicial:", "0.00 ‰"},
-            {"M", "366.6 mkN"},
-            {"M", "692.4 mkN"},
-            {"Pivote:", "R"},
-            {"Prof. fibra neutra:", "0.103 m"},
-            {"Def. hormigón:", "1.99‰"},
-            {"Def. armadura inferior:", "8.67‰"},
-            {"Def. armadura superior:", "1.02‰"},
-            {"Def. refuerzo:", "9.64‰"},
-            {"Momento último c/r:", "238.5 mkN"},
-        };
+        },
+            resultados{
+                {"Momento último s/r:", "222.5 mkN"},
+                {"Predeformación inicial:", "0.00 ‰"},
+                {"M", "366.6 mkN"},
+                {"M", "692.4 mkN"},
+                {"Pivote:", "R"},
+                {"Prof. fibra neutra:", "0.103 m"},
+                {"Def. hormigón:", "1.99‰"},
+                {"Def. armadura inferior:", "8.67‰"},
+                {"Def. armadura superior:", "1.02‰"},
+                {"Def. refuerzo:", "9.64‰"},
+                {"Momento último c/r:", "238.5 mkN"},
+            };
 
         verifica("REFUERZO A FLEXION EN SECCIONES RECTANGULARES", 2.0, 2.0);
         verifica("DATOS GENERALES", 2.0, 4.0);
