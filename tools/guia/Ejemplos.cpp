@@ -4,6 +4,7 @@
 #include "engine/Calculos.h"
 #include "engine/Caracteristicas.h"
 #include "state/Formato.h"
+#include "state/TiposSeccion.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -71,13 +72,27 @@ Filas DatosFlexion(const General& g, bool enT)
     return filas;
 }
 
+// The shape of a column as the guide names it, and the name of the size that DIAM holds.
+struct FormaEnLaGuia {
+    const char* forma;
+    const char* tamano;
+};
+
+FormaEnLaGuia EnLaGuia(FormaPilar forma)
+{
+    switch (forma) {
+    case FormaPilar::Circular: return {"circular", "Diámetro"};
+    case FormaPilar::Cuadrada: return {"cuadrada", "Lado"};
+    case FormaPilar::Rectangular: break;
+    }
+    return {"rectangular", "Lado mayor"};
+}
+
 Filas DatosConfinamiento(const General& g)
 {
-    static const char* const kFormas[] = {"circular", "cuadrada", "rectangular"};
-    static const char* const kTamanos[] = {"Diámetro", "Lado", "Lado mayor"};
-    const int forma = std::clamp<int>(g.SECCION, 1, 3);
-    Filas filas{{"Tipo de sección", kFormas[forma - 1]}, {kTamanos[forma - 1], Metros(g.DIAM)}};
-    if (forma == 3) filas.push_back({"Lado menor", Metros(g.LADOMENOR)});
+    const FormaEnLaGuia nombres = EnLaGuia(FormaDe(g));
+    Filas filas{{"Tipo de sección", nombres.forma}, {nombres.tamano, Metros(g.DIAM)}};
+    if (FormaDe(g) == FormaPilar::Rectangular) filas.push_back({"Lado menor", Metros(g.LADOMENOR)});
     const Filas resto{{"fck", Formato(g.FCK, "0", kComa) + " N/mm²"},
                       {"Axil actual", Dos(g.NCP) + " kN"},
                       {"Incr. de resistencia", Dos(g.INCR)},
