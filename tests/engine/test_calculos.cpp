@@ -570,6 +570,34 @@ TEST(RoturaRectangular, PivoteAConUnaPredeformacionGrandePorUnEquilibrioAMano)
     EXPECT_NEAR(g.EPSC(1, 1), esperado.e.ec, 1e-9);
 }
 
+TEST(RoturaRectangular, LaBusquedaEmpiezaConLaLaminaCargadaMasAllaDeLaPredeformacion)
+{
+    // With 14.85 cm² of bottom bars and an initial strain of 1 ‰, tension wins at the R-B
+    // depth by a few kN only when the sheet there carries its design strain beyond the initial
+    // one: with that strain counted from zero instead, compression would win and the search
+    // would turn about R.
+    General g = ProyectoPorDefecto();
+    g.ASI = 14.85;
+    g.EPS0 = 0.001;
+    Rectangular(g, 1);
+    RoturaAMano a = VigaPorDefectoAMano();
+    a.asi = 14.85;
+    a.eps0 = 0.001;
+    const double xrb = a.Xrb();
+    Deformaciones rb = a.Plano('B', xrb);
+    ASSERT_NEAR(rb.er, a.epsd + a.eps0, 1e-15);
+    ASSERT_LT(a.Balance(xrb, rb), 0.0);
+    rb.er = a.epsd - a.eps0;
+    ASSERT_GT(a.Balance(xrb, rb), 0.0);
+
+    const RoturaAMano::Resultado esperado = a.Resuelve();
+    ASSERT_EQ(esperado.pivote, 'B');
+    EXPECT_EQ(g.PIVOTE(1, 1), "B");
+    EXPECT_NEAR(g.MU(1, 1), esperado.mu, 1e-4);
+    EXPECT_NEAR(g.FN(1, 1), esperado.x, 1e-8);
+    EXPECT_EQ(g.EPSC(1, 1), 0.0035);
+}
+
 TEST(RoturaRectangular, VigaPequenaLlenaDeAceroGiraEnBPorUnEquilibrioAMano)
 {
     General g = ProyectoPorDefecto();
