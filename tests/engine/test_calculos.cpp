@@ -552,13 +552,16 @@ TEST(RoturaRectangular, MomentoRBConLaArmaduraSuperiorEnFluenciaYElastica)
     }
 }
 
-TEST(RoturaRectangular, PivoteAConUnaPredeformacionGrandePorUnEquilibrioAMano)
+// An initial strain of 1.8 ‰ lifts the R-B depth until the bottom bars there pass 0.01: the
+// default beam turns about A, with the top bars given.
+void GiraEnAPorUnaPredeformacionGrande(double ass)
 {
-    // An initial strain of 1.8 ‰ lifts the R-B depth until the bottom bars there pass 0.01.
     General g = ProyectoPorDefecto();
+    g.ASS = ass;
     g.EPS0 = 0.0018;
     Rectangular(g, 1);
     RoturaAMano a = VigaPorDefectoAMano();
+    a.ass = ass;
     a.eps0 = 0.0018;
     const RoturaAMano::Resultado esperado = a.Resuelve();
     ASSERT_EQ(esperado.pivote, 'A');
@@ -566,9 +569,17 @@ TEST(RoturaRectangular, PivoteAConUnaPredeformacionGrandePorUnEquilibrioAMano)
     EXPECT_NEAR(g.MU(1, 1), esperado.mu, 1e-4);
     EXPECT_NEAR(g.FN(1, 1), esperado.x, 1e-8);
     EXPECT_NEAR(g.EPSSI(1, 1), 0.01, 1e-15);
+    EXPECT_NEAR(g.EPSSS(1, 1), esperado.e.es2, 1e-9);
     EXPECT_NEAR(g.EPSR(1, 1), esperado.e.er, 1e-9);
     EXPECT_NEAR(g.EPSC(1, 1), esperado.e.ec, 1e-9);
 }
+
+TEST(RoturaRectangular, PivoteAConUnaPredeformacionGrandePorUnEquilibrioAMano)
+{
+    GiraEnAPorUnaPredeformacionGrande(0.0);
+}
+
+TEST(RoturaRectangular, PivoteAConArmaduraSuperiorPorUnEquilibrioAMano) { GiraEnAPorUnaPredeformacionGrande(10.0); }
 
 TEST(RoturaRectangular, LaBusquedaEmpiezaConLaLaminaCargadaMasAllaDeLaPredeformacion)
 {
