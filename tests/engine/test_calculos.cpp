@@ -769,6 +769,23 @@ TEST(MomentoSinRefuerzo, ArmaduraSuperiorEnPivoteAPorUnEquilibrioAMano)
     EXPECT_NEAR(g.MUSR, esperado.mu, 1e-4);
 }
 
+TEST(MomentoSinRefuerzo, ArmaduraSuperiorEnPivoteBPorUnEquilibrioAMano)
+{
+    // 25 cm² of bottom bars outweigh the concrete where the bars reach 0.01: the section turns
+    // about B, with the top bars yielded in compression.
+    General g = ProyectoPorDefecto();
+    g.ASI = 25.0;
+    g.ASS = 10.0;
+    SinRefuerzo(g);
+    RoturaAMano a = VigaPorDefectoAMano();
+    a.asi = 25.0;
+    a.ass = 10.0;
+    const RoturaAMano::Resultado esperado = a.SinLamina();
+    ASSERT_EQ(esperado.pivote, 'B');
+    ASSERT_GT(esperado.e.es2, a.eyd());
+    EXPECT_NEAR(g.MUSR, esperado.mu, 1e-4);
+}
+
 TEST(MomentoSinRefuerzo, SinArmaduraEsPracticamenteCero)
 {
     General g = ProyectoPorDefecto();
