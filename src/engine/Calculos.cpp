@@ -98,20 +98,12 @@ void Rotura(General& g, const Seccion& s, double ANCHOR, double EPS0, Entero tip
                         (xrb - s.r) * kDeformacionHormigon / xrb, g.EPSD(n) + EPS0};
         const double r0 = s.RES(xrb, e.es1, e.es2, FR(e.er));
 
-        char pivote;
-        double bajo;
-        double alto;
-        if (r0 < 0.0) {
-            // Tension wins at the R-B depth: the axis goes down, the concrete governs.
-            pivote = 'B';
-            bajo = xrb;
-            alto = s.h;
-        } else {
-            // Compression wins: the axis goes up, the sheet or the steel governs.
-            pivote = e.es1 <= kDeformacionAcero ? 'R' : 'A';
-            bajo = 0.0;
-            alto = xrb;
-        }
+        // Tension wins at the R-B depth: the axis goes down, the concrete governs. Otherwise
+        // compression wins: the axis goes up, the sheet or the steel governs.
+        const bool bajaElEje = r0 < 0.0;
+        const char pivote = bajaElEje ? 'B' : (e.es1 <= kDeformacionAcero ? 'R' : 'A');
+        const double bajo = bajaElEje ? xrb : 0.0;
+        const double alto = bajaElEje ? s.h : xrb;
 
         Biseccion(r0, bajo, alto, x, [&](double profundidad) {
             e = DiagramaPorPivote(s, pivote, profundidad, g.EPSD(n) + EPS0);
