@@ -49,9 +49,27 @@ export DISPLAY=":$(head -n1 "$temporal/pantalla")"
 unset QT_QPA_PLATFORM
 export XDG_RUNTIME_DIR="$temporal"
 
-openbox --sm-disable >"$temporal/openbox.txt" 2>&1 &
-pids+=($!)
-for _ in $(seq 100); do xprop -root _NET_SUPPORTING_WM_CHECK 2>/dev/null | grep -q 'window id' && break; sleep 0.1; done
+# The window manager, once the screen answers. Now and then openbox cannot open the display it
+# is given and ends at once ("Failed to open the display"), though the screen answers everyone
+# else: without it the checks below would meet a screen with no frames at all. One that ended
+# so is started again, three times at the most, until it takes the screen.
+for _ in $(seq 100); do xprop -root >/dev/null 2>&1 && break; sleep 0.1; done
+gestor=
+for _ in 1 2 3; do
+  openbox --sm-disable >>"$temporal/openbox.txt" 2>&1 &
+  pids+=($!)
+  for _ in $(seq 100); do
+    if xprop -root _NET_SUPPORTING_WM_CHECK 2>/dev/null | grep -q 'window id'; then
+      gestor=$!
+      break 2
+    fi
+    kill -0 $! 2>/dev/null || break
+    sleep 0.1
+  done
+  # An openbox still running that has not taken the screen is not started twice.
+  kill -0 $! 2>/dev/null && break
+done
+[ -n "$gestor" ] || { cat "$temporal/openbox.txt" >&2; echo "FALLO: openbox no ha tomado la pantalla" >&2; exit 1; }
 
 "$programa" >"$temporal/programa.txt" 2>&1 &
 pids+=($!)
@@ -135,6 +153,8 @@ for _ in 1 2 3; do
 done
 if [ -z "$ayuda" ]; then
   falla "F1 no abre la ventana de ayuda"
+elif ! xprop -id "$ayuda" _NET_FRAME_EXTENTS 2>/dev/null | grep -q '='; then
+  falla "openbox no ha enmarcado la ventana de ayuda"
 else
   sleep 0.5
   read -r ax ay aancho aalto <<<"$(geometria "$ayuda")"
