@@ -56,6 +56,17 @@ inline constexpr std::string_view kTipoRectangular = "rectangular";
 inline constexpr std::string_view kTipoT = "T";
 inline constexpr std::string_view kTipoConfinamiento = "confinamiento";
 
+// The shapes of a column, in lower case, as the batch command's text and the guide name them.
+constexpr std::string_view NombreForma(FormaPilar forma)
+{
+    switch (forma) {
+    case FormaPilar::Circular: return "circular";
+    case FormaPilar::Cuadrada: return "cuadrada";
+    case FormaPilar::Rectangular: return "rectangular";
+    }
+    return {};
+}
+
 // The kind's name of above; none while the file has not told its kind.
 std::optional<std::string_view> NombreTipo(const CalculoFichero& calculo);
 

@@ -21,17 +21,6 @@ namespace {
 constexpr std::size_t kAnchoCapas = 8;
 constexpr std::size_t kAnchoTipo = 13;
 
-// The shapes' names, in lower case.
-std::string_view NombreForma(FormaPilar forma)
-{
-    switch (forma) {
-    case FormaPilar::Circular: return "circular";
-    case FormaPilar::Cuadrada: return "cuadrada";
-    case FormaPilar::Rectangular: return "rectangular";
-    }
-    return {};
-}
-
 std::string Alineado(std::string_view texto, std::size_t ancho) { return FormatoTexto(texto, std::string(ancho, '@')); }
 
 // The text of the grid cell (type, layers).

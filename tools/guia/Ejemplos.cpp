@@ -72,27 +72,22 @@ Filas DatosFlexion(const General& g, bool enT)
     return filas;
 }
 
-// The shape of a column as the guide names it, and the name of the size that DIAM holds.
-struct FormaEnLaGuia {
-    const char* forma;
-    const char* tamano;
-};
-
-FormaEnLaGuia EnLaGuia(FormaPilar forma)
+// The name of the size that DIAM holds, by the shape of the column.
+const char* NombreTamano(FormaPilar forma)
 {
     switch (forma) {
-    case FormaPilar::Circular: return {"circular", "Diámetro"};
-    case FormaPilar::Cuadrada: return {"cuadrada", "Lado"};
+    case FormaPilar::Circular: return "Diámetro";
+    case FormaPilar::Cuadrada: return "Lado";
     case FormaPilar::Rectangular: break;
     }
-    return {"rectangular", "Lado mayor"};
+    return "Lado mayor";
 }
 
 Filas DatosConfinamiento(const General& g)
 {
-    const FormaEnLaGuia nombres = EnLaGuia(FormaDe(g));
-    Filas filas{{"Tipo de sección", nombres.forma}, {nombres.tamano, Metros(g.DIAM)}};
-    if (FormaDe(g) == FormaPilar::Rectangular) filas.push_back({"Lado menor", Metros(g.LADOMENOR)});
+    const FormaPilar forma = FormaDe(g);
+    Filas filas{{"Tipo de sección", std::string(calculo::NombreForma(forma))}, {NombreTamano(forma), Metros(g.DIAM)}};
+    if (forma == FormaPilar::Rectangular) filas.push_back({"Lado menor", Metros(g.LADOMENOR)});
     const Filas resto{{"fck", Formato(g.FCK, "0", kComa) + " N/mm²"},
                       {"Axil actual", Dos(g.NCP) + " kN"},
                       {"Incr. de resistencia", Dos(g.INCR)},
